@@ -1,0 +1,54 @@
+#pragma once
+
+#include "core/forms/field.h"
+#include "core/forms/font.h"
+
+#include <string>
+
+namespace tarvelin
+{
+
+/// Width and height in pixels.
+struct PictureSize
+{
+  int width = 0;
+  int height = 0;
+};
+
+/// A picture, or a plain area of one colour. It may act as a command.
+class Picture : public Field
+{
+public:
+  Picture(Form* form, std::string_view name, int index = noIndex);
+  Kind kind() const override { return Kind::picture; }
+
+  Handler onClick;
+  PressHandler onPress;
+  Handler onRelease;
+
+  /// Path of the loaded picture, "" for none.
+  const std::string& path() const { return m_path; }
+  int width() const { return m_size.width; }
+  int height() const { return m_size.height; }
+
+  /// Loads a JPEG or, for the program icons, a Windows bitmap. Throws 53 when it is missing, 481 when it is neither;
+  /// the picture then stays as it was.
+  void load(std::string_view path);
+
+  void clear();
+
+  Colour color() const { return m_color; }
+  void setColor(Colour color);
+
+  void click();
+
+private:
+  std::string m_path;
+  PictureSize m_size;
+  Colour m_color = 0xFFFFFF;
+};
+
+/// Size of a JPEG or a Windows bitmap, read from its head. Throws 53, 481.
+PictureSize pictureSize(std::string_view path);
+
+} // namespace tarvelin

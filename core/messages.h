@@ -1,0 +1,11 @@
+#pragma once
+
+namespace tarvelin::message
+{
+
+// Places of the messages in the language packs (Hlasky).
+inline constexpr int logsDeleted = 5;       ///< behind the number of deleted log files
+inline constexpr int languageInUse = 8;     ///< the chosen language is the one in use
+inline constexpr int noMissionOpen = 14;    ///< a command that needs an open mission
+
+} // namespace tarvelin::message

@@ -1,0 +1,106 @@
+#include "host/lua_procs.h"
+
+#include "core/folder_scan.h"
+#include "core/islands.h"
+#include "core/language.h"
+#include "core/run_log.h"
+#include "core/settings.h"
+#include "core/strings.h"
+#include "host/procedure_call.h"
+#include "mission/briefing_reader.h"
+#include "mission/briefing_writer.h"
+#include "mission/create_mission.h"
+#include "mission/description_reader.h"
+#include "mission/description_writer.h"
+#include "mission/open_mission.h"
+#include "mission/overview_reader.h"
+#include "mission/overview_writer.h"
+#include "mission/sqm_reader.h"
+#include "mission/sqm_writer.h"
+#include "mission/stringtable_writer.h"
+#include "panels/sound_copy.h"
+#include "script/word_search.h"
+#include "tools/mission_readme.h"
+
+namespace tarvelin::host
+{
+
+namespace
+{
+
+std::string lastFailure;
+
+/// A procedure's failure is an error that the script may catch; one that it does not catch ends the program.
+template <auto procedure> int procedureCall(lua_State* lua)
+{
+  try
+  {
+    return called<procedure>(lua);
+  }
+  catch (const Failure& failure)
+  {
+    lastFailure = runTimeError(failure);
+    throw;
+  }
+}
+
+template <auto procedure> constexpr luaL_Reg entry(const char* name)
+{
+  return {name, guarded<procedureCall<procedure>>};
+}
+
+constexpr luaL_Reg procedures[] = {
+    entry<Akce>("Akce"),
+    entry<BNajdi>("BNajdi"),
+    entry<BNajdi2>("BNajdi2"),
+    entry<BezUvozovek>("BezUvozovek"),
+    entry<DejJmenoSouboru>("DejJmenoSouboru"),
+    entry<HodnotaRadku>("HodnotaRadku"),
+    entry<Jazyky>("Jazyky"),
+    entry<KopirujZvuky>("KopirujZvuky"),
+    entry<NactiBriefing>("NactiBriefing"),
+    entry<NactiDescription>("NactiDescription"),
+    entry<NactiJazyk>("NactiJazyk"),
+    entry<NactiNastaveni>("NactiNastaveni"),
+    entry<NactiOstrovy>("NactiOstrovy"),
+    entry<NactiOverview>("NactiOverview"),
+    entry<NactiReadme>("NactiReadme"),
+    entry<NactiSoubory>("NactiSoubory"),
+    entry<NactiSqm>("NactiSqm"),
+    entry<NactiStranky>("NactiStranky"),
+    entry<SlozkaSouboru>("SlozkaSouboru"),
+    entry<SpocitejSoubory>("SpocitejSoubory"),
+    entry<UlozBriefing>("UlozBriefing"),
+    entry<UlozDescription>("UlozDescription"),
+    entry<UlozNastaveni>("UlozNastaveni"),
+    entry<UlozOverview>("UlozOverview"),
+    entry<UlozSqm>("UlozSqm"),
+    entry<UlozStringtable>("UlozStringtable"),
+    entry<ZapisLog>("ZapisLog"),
+    entry<ZkontrolujPrikazovyRadek>("ZkontrolujPrikazovyRadek"),
+    {nullptr, nullptr},
+};
+
+int missing(lua_State* lua)
+{
+  throw ScriptError("no procedure " + toText(lua, 2));
+}
+
+} // namespace
+
+bool isProcedureFailure(std::string_view message)
+{
+  return !lastFailure.empty() && message == lastFailure;
+}
+
+void openProcedures(lua_State* lua)
+{
+  luaL_newlib(lua, procedures);
+  lua_newtable(lua);
+  lua_pushcfunction(lua, guarded<missing>);
+  lua_setfield(lua, -2, "__index");
+  lua_setmetatable(lua, -2);
+  lua_setglobal(lua, "proc");
+}
+
+} // namespace tarvelin::host

@@ -1,0 +1,15 @@
+#include "mission/mission_handlers.h"
+
+#include "mission/create_mission.h"
+#include "mission/open_mission.h"
+
+namespace tarvelin
+{
+
+void attachMission()
+{
+  attachOpenMission();
+  attachCreateMission();
+}
+
+} // namespace tarvelin

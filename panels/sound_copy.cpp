@@ -1,0 +1,8 @@
+#include "panels/sound_copy.h"
+
+namespace tarvelin
+{
+
+void KopirujZvuky() {}
+
+} // namespace tarvelin

@@ -1,0 +1,10 @@
+#pragma once
+
+namespace tarvelin
+{
+
+/// Copies the sounds, music and pictures of the lists into the folder of the open mission, with a progress window.
+/// Failures are logged.
+void KopirujZvuky();
+
+} // namespace tarvelin
