@@ -135,6 +135,7 @@ local function show(name)
   return true
 end
 
+print(string.format("Objectives: %d west, %d east", shared.PocetUkoluZapad, shared.PocetUkoluVychod))
 print("Written to " .. native(shared.CestaMise))
 local written = 0
 for _, name in ipairs {"Briefing.html", "Overview.html", "Description.ext", "Stringtable.csv"} do

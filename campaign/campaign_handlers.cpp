@@ -1,0 +1,10 @@
+#include "campaign/campaign_handlers.h"
+
+namespace tarvelin
+{
+
+void attachCampaign()
+{
+}
+
+} // namespace tarvelin

@@ -1,0 +1,10 @@
+#include "panels/panels_handlers.h"
+
+namespace tarvelin
+{
+
+void attachPanels()
+{
+}
+
+} // namespace tarvelin

@@ -1,0 +1,10 @@
+#include "script/script_handlers.h"
+
+namespace tarvelin
+{
+
+void attachScript()
+{
+}
+
+} // namespace tarvelin
