@@ -13,7 +13,7 @@ struct OpenMissionForm : Form
   DriveList Drive1{this, "Drive1"};
   FolderList Dir1{this, "Dir1"};
   FileList File1{this, "File1", "*.sqm*"};
-  Check chknacist{this, "chknacist", "Načíst existující soubory Overview, Briefing atd..."};
+  Check chknacist{this, "chknacist", "Načíst existující soubory Overview, Briefing atd...", 1};
   Command Command1{this, "Command1", "Ok"};
   Command Command2{this, "Command2", "Storno"};
 };

@@ -1,0 +1,15 @@
+-- The folder of the logs is made when it is missing; a log that cannot be saved is no failure.
+start()
+quit()
+check(listing(home .. "/Bfdata/LogFiles"):match("^TarvLogFile"), "the folder was made, the log saved")
+os.execute("rm -r '" .. home .. "/Bfdata/LogFiles'")
+write_file(home .. "/Bfdata/LogFiles", "a file in its place")
+start()
+quit()
+equal(read_file(home .. "/Bfdata/LogFiles"), "a file in its place", "a file in the folder's place is left alone")
+-- settings that cannot be written are logged before the log is saved
+os.execute("rm '" .. home .. "/Tarvinfo.cfg' '" .. home .. "/Bfdata/LogFiles'; mkdir '" .. home .. "/Tarvinfo.cfg'")
+start()
+quit()
+contains(log(), "Nastala chyba při ukládání nastavení do: " .. path(home) .. "\\Tarvinfo.cfg, 75Path/File access error\r\n", "the failure is logged")
+equal(exists(home .. "/Tarvinfo.cfg"), true, "what lay there stays")

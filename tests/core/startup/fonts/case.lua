@@ -1,0 +1,21 @@
+-- The fonts of the settings go to the three editors; an empty name keeps the font's own, the rest is always set.
+local settings = read_file(home .. "/Tarvinfo.cfg")
+local head = settings:sub(1, -(3 * 18) - 1)
+local function record(name, bold, italic, strike, under, size, colour)
+  return string.pack("<s2", name) .. string.pack("<hhhhh", bold, italic, strike, under, size) .. "\0\0" .. string.pack("<I4", colour)
+end
+write_file(home .. "/Tarvinfo.cfg", head .. record("Courier", -1, 0, -1, 0, 14, 0x123456) .. record("", 0, -1, 0, -1, 9, 7) .. record("Arial", 0, 0, 0, 0, 10, 0))
+start()
+local function font(field) return field.font end
+equal(font(frmmain.txtBriefink).name, "Courier", "first font")
+equal(font(frmmain.txtBriefink).bold, true, "bold")
+equal(font(frmmain.txtBriefink).italic, false, "not italic")
+equal(font(frmmain.txtBriefink).strikethrough, true, "struck through")
+equal(font(frmmain.txtBriefink).underline, false, "not underlined")
+equal(font(frmmain.txtBriefink).size, 14, "size")
+equal(font(frmmain.txtBriefink).color, 0x123456, "colour")
+equal(font(frmmain.txtOverview).name, "", "no name: the field's own font")
+equal(font(frmmain.txtOverview).italic, true, "but its italic flag is set")
+equal(font(frmmain.txtOverview).underline, true, "and its underline")
+equal(font(frmmain.txtOverview).size, 9, "and its size")
+equal(font(frmmain.txtPoznamky).name, "Arial", "third font")

@@ -1,0 +1,11 @@
+-- A mission named on the command line is open before the main window is shown, before fonts are set.
+local folder = mission("cmd.Eden", 'class Mission\n{\n\tclass Intel\n\t{\n\t\tbriefingName="From the line";\n\t};\n};\n')
+start("MISSION=" .. folder .. "/mission.sqm")
+equal(shared.SouborMise, path(folder) .. "\\mission.sqm", "the mission")
+equal(shared.CestaMise, path(folder) .. "\\", "its folder")
+equal(frmmain.caption, "Tarvelin - " .. path(folder) .. "\\", "the caption")
+equal(frmmain.txtBrifingJmeno.text, '"From the line"', "it was read")
+equal(frmmain.SSTab1.enabled, true, "the tabs are enabled")
+equal(frmmain.seznamakci.enabled, true, "the combo")
+equal(frmmain.cmdvytvor.enabled, true, "and Vytvoř")
+equal(frmmain.visible, true, "then the window is shown")

@@ -1,0 +1,17 @@
+-- A disabled field can be read but not used; fields on a disabled tab strip are not disabled themselves.
+start()
+equal(frmmain.cmdvytvor.enabled, false, "no mission: Vytvoř is disabled")
+fails(function() frmmain.cmdvytvor:click() end, "frmmain.cmdvytvor is disabled", "a click")
+fails(function() frmmain.Text1[0].text = "x" end, "frmmain.Text1(0) is disabled", "a write")
+fails(function() frmmain.Text1[0]:type("x") end, "frmmain.Text1(0) is disabled", "typing")
+fails(function() frmmain.seznamakci:select(0) end, "frmmain.seznamakci is disabled", "a selection")
+equal(frmmain.seznamakci.index, 3, "reading goes on")
+equal(#frmmain.seznamakci, 4, "rows too")
+equal(frmmain.SSTab1.enabled, false, "the tab strip is disabled")
+fails(function() frmmain.SSTab1.tab = 1 end, "frmmain.SSTab1 is disabled", "turning a tab")
+frmmain.txtBriefink.text = "a field on it is not"
+equal(frmmain.txtBriefink.text, "a field on it is not", "and takes what the user writes")
+fails(function() frmmain.txtUkol.enabled = false end, "cannot be written", "the script cannot enable or disable")
+equal(frmmain.strany.visible, false, "a field that is not on screen")
+frmmain.strany:select(2)
+equal(frmmain.strany.index, 2, "can be used")

@@ -1,0 +1,15 @@
+-- proc: arguments, results, fields as arguments, failures.
+equal(proc.HodnotaRadku("a=1;"), "1", "before any start")
+start()
+equal(proc.BezUvozovek('"x"y"'), "xy", "a text comes back")
+equal(proc.SpocitejSoubory("dat", path(home) .. "\\Bfdata", 3, ""), 8, "a number comes back")
+equal(proc.DejJmenoSouboru("DAT", path(home) .. "\\Bfdata", 3, "isl"), "islands.dat", "a result argument comes back as the result")
+local list = frmloadsite.List1
+proc.NactiStranky("dat", path(home) .. "\\Bfdata", list, 3, "s")
+equal(rows(list), "commands.dat|Faces.dat|fonts.dat|islands.dat|ofpsites.dat|Rscdef.dat|Speakers.dat", "a field is the field itself")
+equal(proc.BNajdi(0, -1, "a", tmpfrm.zasobnik), -1, "the result of a search")
+fails(function() proc.HodnotaRadku("") end, "run-time error 5: Invalid procedure call or argument", "a failure is an error")
+fails(function() proc.HodnotaRadku({}) end, "string expected", "a wrong argument")
+fails(function() proc.NactiStranky("dat", "x", frmmain, 3, "s") end, "field expected", "a form is no field")
+fails(function() proc.NactiStranky("dat", "x", frmmain.lblx, 3, "s") end, "field of another kind", "a label is no list")
+fails(function() proc.Neni() end, "no procedure Neni", "a name that does not exist")

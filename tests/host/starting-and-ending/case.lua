@@ -1,0 +1,41 @@
+-- start, quit, path, native, log, arg, and the ways in which a user closes the program.
+equal(type(arg), "table", "arg is there")
+equal(path("/a b/c.sqm"), "\\a b\\c.sqm", "path of the system in the program's form")
+equal(native("\\a b\\c.sqm"), "/a b/c.sqm", "and back")
+equal(native(path(work .. "/Žluťoučký kůň; 'x' \"y\".sqm")), work .. "/Žluťoučký kůň; 'x' \"y\".sqm", "any name comes back")
+equal(log(), "", "no log before the start")
+equal(frmmain.visible, false, "the forms are there before the start, at their defaults")
+equal(frmmain.cmdvytvor.caption, "Vytvoř", "with their own captions")
+
+start()
+equal(frmmain.visible, true, "start returns when the main form is shown")
+equal(frmstart.visible, false, "the splash is gone")
+in_order(log(), {"Start programu: ", "Konec Inicializace programu\r\n"}, "log")
+fails(function() start() end, "the program is running already", "a second start of a running program")
+
+quit()
+equal(frmmain, nil, "no forms after the end")
+equal(Form2, nil, "none at all")
+contains(log(), "Konec programu: ", "the log stays readable")
+equal(shared.Texty[1], "T1", "the shared values too")
+quit()
+local _, ends = log():gsub("Konec programu: ", "")
+equal(ends, 1, "a program ends once")
+
+-- another start begins like a new process
+start()
+equal(frmmain.visible, true, "the program runs again")
+local _, starts = log():gsub("Start programu: ", "")
+equal(starts, 1, "with a log of its own")
+equal(#frmmain.strany3, 4, "and fresh forms")
+local kept = frmmain
+frmmain.cmdend:click()
+equal(frmmain, nil, "cmdend ends the program")
+fails(function() return kept.visible end, "no form frmmain", "a form that the script kept is gone as well")
+
+start()
+frmmain.mnufileend:click()
+equal(frmmain, nil, "mnufileend ends it")
+start()
+frmmain:close()
+equal(frmmain, nil, "the window's own button ends it")
