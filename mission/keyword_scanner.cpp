@@ -1,150 +1,101 @@
 #include "mission/keyword_scanner.h"
 
 #include <algorithm>
-#include <map>
-#include <queue>
-#include <string>
+#include <array>
 
 namespace tarvelin
 {
 
-namespace
-{
-
-constexpr char upperCase(char c)
-{
-  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
-}
-
-/// A node of the tree of all keywords.
-struct Node
-{
-  std::map<char, std::size_t> children;
-  std::size_t fallback = 0; ///< node of the longest proper end of this one's text
-  std::uint64_t found = 0;
-};
-
-std::vector<Node> keywordTree(std::span<const std::string_view> keywords)
-{
-  std::vector<Node> nodes(1);
-  for (std::size_t bit = 0; bit < keywords.size(); ++bit)
-  {
-    std::size_t at = 0;
-    for (const char c : keywords[bit])
-    {
-      const auto child = nodes[at].children.find(c);
-      if (child != nodes[at].children.end())
-        at = child->second;
-      else
-      {
-        nodes[at].children.emplace(c, nodes.size());
-        at = nodes.size();
-        nodes.emplace_back();
-      }
-    }
-    nodes[at].found |= std::uint64_t{1} << bit;
-  }
-  return nodes;
-}
-
-std::size_t step(const std::vector<Node>& nodes, std::size_t from, char c)
-{
-  for (;; from = nodes[from].fallback)
-  {
-    const auto child = nodes[from].children.find(c);
-    if (child != nodes[from].children.end())
-      return child->second;
-    if (from == 0)
-      return 0;
-  }
-}
-
-void setFallbacks(std::vector<Node>& nodes)
-{
-  std::queue<std::size_t> open;
-  open.push(0);
-  while (!open.empty())
-  {
-    const std::size_t at = open.front();
-    open.pop();
-    for (const auto& [c, child] : nodes[at].children)
-    {
-      nodes[child].fallback = at == 0 ? 0 : step(nodes, nodes[at].fallback, c);
-      nodes[child].found |= nodes[nodes[child].fallback].found;
-      open.push(child);
-    }
-  }
-}
-
-} // namespace
-
 KeywordScanner::KeywordScanner(std::span<const std::string_view> keywords)
+    : m_machine(keywords, KeywordMachine::LineEnds::stop)
 {
-  std::vector<Node> nodes = keywordTree(keywords);
-  setFallbacks(nodes);
-
-  // Class 0 ends a line, class 1 is in no keyword.
-  std::string letters;
-  for (const std::string_view keyword : keywords)
-    letters += keyword;
-  std::ranges::sort(letters);
-  letters.erase(std::ranges::unique(letters).begin(), letters.end());
-  m_classes = letters.size() + 2;
-  for (std::size_t byte = 0; byte < m_class.size(); ++byte)
-  {
-    const auto c = static_cast<char>(byte);
-    const std::size_t letter = letters.find(upperCase(c));
-    if (c == '\r' || c == '\n')
-      m_class[byte] = 0;
-    else
-      m_class[byte] = static_cast<std::uint8_t>(letter == std::string::npos ? 1 : letter + 2);
-  }
-
-  // The plain states come first, so that one comparison tells the others.
-  std::vector<std::size_t> order(nodes.size());
-  for (std::size_t i = 0; i < order.size(); ++i)
-    order[i] = i;
-  std::ranges::stable_partition(order, [&](std::size_t node) { return nodes[node].found == 0; });
-  std::vector<std::size_t> place(nodes.size());
-  for (std::size_t i = 0; i < order.size(); ++i)
-    place[order[i]] = i;
-
-  const auto row = [this](std::size_t state) { return static_cast<State>(state * m_classes); };
-  const std::size_t lineEnd = nodes.size();
-  m_next.assign((lineEnd + 1) * m_classes, 0);
-  m_found.assign(lineEnd + 1, 0);
-  const auto plain = static_cast<std::size_t>(
-      std::ranges::count_if(nodes, [](const Node& node) { return node.found == 0; }));
-  m_firstSpecial = row(plain);
-  for (std::size_t i = 0; i < order.size(); ++i)
-  {
-    m_found[i] = nodes[order[i]].found;
-    m_next[i * m_classes] = row(lineEnd);
-    for (std::size_t letter = 0; letter < letters.size(); ++letter)
-      m_next[i * m_classes + letter + 2] = row(place[step(nodes, order[i], letters[letter])]);
-  }
 }
 
 KeywordScanner::Line KeywordScanner::scan(std::string_view text) const
 {
-  const State* const next = m_next.data();
-  const auto lineEnd = static_cast<State>(m_next.size() - m_classes);
-  State state = 0;
+  KeywordMachine::State state = KeywordMachine::start;
   std::uint64_t found = 0;
   std::size_t at = 0;
   for (; at < text.size(); ++at)
   {
-    state = next[std::size_t{state} + m_class[static_cast<unsigned char>(text[at])]];
-    if (state < m_firstSpecial)
+    state = m_machine.next(state, text[at]);
+    if (!m_machine.special(state))
       continue;
-    if (state == lineEnd)
+    if (m_machine.atLineEnd(state))
       break;
-    found |= m_found[static_cast<std::size_t>(state) / m_classes];
+    found |= m_machine.found(state);
   }
   const std::string_view line = text.substr(0, at);
   if (at < text.size())
     at += text.substr(at).starts_with("\r\n") ? std::size_t{2} : std::size_t{1};
   return {line, found, text.substr(at)};
+}
+
+KeywordFinder::KeywordFinder(std::span<const std::string_view> keywords, std::string_view text)
+    : m_machine(keywords, KeywordMachine::LineEnds::plain), m_text(text)
+{
+}
+
+/// Fills m_ends from the window that begins at `from`. A machine waits for each of its bytes; four of them wait at the
+/// same time. Each begins a keyword's length before its part, so that none is cut in two; the first and the last bytes
+/// of the text are left to one alone.
+void KeywordFinder::readWindow(std::size_t from)
+{
+  m_ends.clear();
+  m_next = 0;
+  const std::size_t rest = m_text.size() - from;
+  const std::size_t part = std::min(streamSize, rest / streams);
+  const std::size_t before = std::min(from, m_machine.longestKeyword());
+  if (before < m_machine.longestKeyword() || part < m_machine.longestKeyword())
+  {
+    m_windowEnd = from + std::min(rest, streamSize);
+    KeywordMachine::State state = KeywordMachine::start;
+    for (std::size_t at = from - before; at < m_windowEnd; ++at)
+    {
+      state = m_machine.next(state, m_text[at]);
+      if (m_machine.special(state))
+        m_ends.push_back(at);
+    }
+    return;
+  }
+  m_windowEnd = from + part * streams;
+  std::array<std::vector<std::size_t>, streams> ends;
+  std::array<KeywordMachine::State, streams> states{};
+  const char* const begin = m_text.data() + from - before;
+  for (std::size_t i = 0; i < before + part; ++i)
+  {
+    bool special = false;
+    for (std::size_t stream = 0; stream < streams; ++stream)
+    {
+      states[stream] = m_machine.next(states[stream], begin[stream * part + i]);
+      special |= m_machine.special(states[stream]);
+    }
+    if (!special)
+      continue;
+    for (std::size_t stream = 0; stream < streams; ++stream)
+      if (m_machine.special(states[stream]))
+        ends[stream].push_back(from - before + stream * part + i);
+  }
+  for (const std::vector<std::size_t>& some : ends)
+    m_ends.insert(m_ends.end(), some.begin(), some.end());
+}
+
+std::size_t KeywordFinder::lineFrom(std::size_t from)
+{
+  for (std::size_t window = std::max(from, m_windowEnd);; window = m_windowEnd)
+  {
+    while (m_next < m_ends.size() && m_ends[m_next] < from)
+      ++m_next;
+    if (m_next < m_ends.size())
+      break;
+    if (window >= m_text.size())
+      return m_text.size();
+    readWindow(window);
+  }
+  std::size_t start = m_ends[m_next];
+  while (start > from && m_text[start - 1] != '\n' && m_text[start - 1] != '\r')
+    --start;
+  return start;
 }
 
 } // namespace tarvelin

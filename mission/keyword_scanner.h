@@ -1,6 +1,8 @@
 #pragma once
 
-#include <array>
+#include "mission/keyword_machine.h"
+
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -9,12 +11,11 @@
 namespace tarvelin
 {
 
-/// Finds which of a set of keywords the lines of a text hold, at any place and ignoring case, in one pass over the
-/// bytes. Keywords are ASCII in upper case; keyword i is bit i.
+/// Tells which of a set of keywords the lines of a text hold, at any place and ignoring case. Keywords are ASCII in upper
+/// case; keyword i is bit i.
 class KeywordScanner
 {
 public:
-  /// At most 64 keywords.
   explicit KeywordScanner(std::span<const std::string_view> keywords);
 
   struct Line
@@ -28,13 +29,31 @@ public:
   Line scan(std::string_view text) const;
 
 private:
-  using State = std::uint16_t; ///< row of m_next, counted in entries
+  KeywordMachine m_machine;
+};
 
-  std::array<std::uint8_t, 256> m_class{}; ///< bytes that no keyword tells apart share a class; 0 ends a line
-  std::size_t m_classes = 0;
-  std::vector<State> m_next;          ///< m_classes entries for each state
-  std::vector<std::uint64_t> m_found; ///< keywords that end in a state, by state number
-  State m_firstSpecial = 0;           ///< states from here on end a keyword; the last one ends the line
+/// Finds the lines of a long text that hold a keyword, without a look at the others one by one: it runs ahead in windows,
+/// in each of which several machines read at once.
+class KeywordFinder
+{
+public:
+  KeywordFinder(std::span<const std::string_view> keywords, std::string_view text);
+
+  /// Start of the first line at or behind `from` (the start of a line) that holds a keyword; the text's size when there
+  /// is none. `from` never goes back.
+  std::size_t lineFrom(std::size_t from);
+
+private:
+  static constexpr std::size_t streams = 4;
+  static constexpr std::size_t streamSize = 1 << 14;
+
+  void readWindow(std::size_t from);
+
+  KeywordMachine m_machine;
+  std::string_view m_text;
+  std::size_t m_windowEnd = 0;
+  std::vector<std::size_t> m_ends; ///< where keywords end in the window
+  std::size_t m_next = 0;          ///< of m_ends
 };
 
 } // namespace tarvelin

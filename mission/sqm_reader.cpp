@@ -15,6 +15,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 
 namespace tarvelin
 {
@@ -58,6 +59,7 @@ enum Keyword
   expCond,
 };
 
+/// In the order of Keyword. The first ones are of interest anywhere, the rest only among the items of a class.
 constexpr std::string_view keywords[] = {
     "BRIEFINGNAME",  "BRIEFINGDESCRIPTION", "STARTWEATHER",   "FORECASTWEATHER", "STARTFOG",      "FORECASTFOG",
     "MONTH",         "DAY",                 "HOUR",           "MINUTE",          "CLASS INTRO",   "CLASS MISSION",
@@ -66,6 +68,8 @@ constexpr std::string_view keywords[] = {
     "FILLNAME",      "NAME",                "TEXT",           "TYPE",            "ACTIVATIONTYPE", "TITLETEXT",
     "EXPCOND",
 };
+
+constexpr std::size_t keywordsAnywhere = classItem;
 
 struct IntelValue
 {
@@ -104,8 +108,12 @@ constexpr Section sections[] = {
 class SqmLines
 {
 public:
-  SqmLines(const KeywordScanner& scanner, std::string_view text) : m_scanner(scanner), m_line{{}, 0, text} {}
+  explicit SqmLines(std::string_view text)
+      : m_scanner(keywords), m_finder(std::span(keywords).first(keywordsAnywhere), text), m_text(text), m_line{{}, 0, text}
+  {
+  }
 
+  /// Goes to the next line. False at the end of the file.
   bool next()
   {
     if (m_line.rest.empty())
@@ -114,13 +122,23 @@ public:
     return true;
   }
 
+  /// Goes to the next line that is of interest anywhere.
+  bool nextOfInterest()
+  {
+    const std::size_t from = m_text.size() - m_line.rest.size();
+    m_line.rest = m_text.substr(m_finder.lineFrom(from));
+    return next();
+  }
+
   bool has(Keyword keyword) const { return (m_line.keywords >> keyword & 1) != 0; }
   bool hasAny() const { return m_line.keywords != 0; }
   std::string text() const { return platform::decode(m_line.text); }
   std::string value() const { return HodnotaRadku(text()); }
 
 private:
-  const KeywordScanner& m_scanner;
+  KeywordScanner m_scanner;
+  KeywordFinder m_finder;
+  std::string_view m_text;
   KeywordScanner::Line m_line;
 };
 
@@ -128,13 +146,12 @@ private:
 class SqmReading
 {
 public:
-  SqmReading(const KeywordScanner& scanner, std::string_view text) : m_lines(scanner, text) {}
+  explicit SqmReading(std::string_view text) : m_lines(text) {}
 
   void run()
   {
-    while (m_lines.next())
-      if (m_lines.hasAny())
-        line();
+    while (m_lines.nextOfInterest())
+      line();
   }
 
 private:
@@ -303,7 +320,6 @@ std::string HodnotaRadku(std::string_view line)
 
 void NactiSqm(const std::string& path)
 {
-  static const KeywordScanner scanner(keywords);
   frmdalsinast.addony.clear();
   std::optional<platform::MappedFile> file;
   const bool opened = attempt([&] { file.emplace(path); },
@@ -314,7 +330,7 @@ void NactiSqm(const std::string& path)
                               });
   if (!opened)
     return;
-  SqmReading(scanner, file->bytes()).run();
+  SqmReading(file->bytes()).run();
   file.reset();
   showIntel();
   showFirstMarker();

@@ -6,6 +6,7 @@
 
 #include <random>
 #include <string>
+#include <vector>
 
 using namespace tarvelin;
 
@@ -73,6 +74,69 @@ TEST(KeywordScanner, FindsWhatASearchForEachKeywordFinds)
       if (upper(line).find(keywords[bit]) != std::string::npos)
         want |= std::uint64_t{1} << bit;
     ASSERT_EQ(found(scanner, line), want) << line;
+  }
+}
+
+/// The lines that a finder finds, by their starts.
+std::vector<std::size_t> linesFound(std::string_view text)
+{
+  const KeywordScanner scanner(keywords);
+  KeywordFinder finder(keywords, text);
+  std::vector<std::size_t> starts;
+  for (std::size_t from = 0; (from = finder.lineFrom(from)) < text.size();)
+  {
+    starts.push_back(from);
+    from = text.size() - scanner.scan(text.substr(from)).rest.size();
+  }
+  return starts;
+}
+
+std::vector<std::size_t> linesWalked(std::string_view text)
+{
+  const KeywordScanner scanner(keywords);
+  std::vector<std::size_t> starts;
+  for (std::string_view rest = text; !rest.empty();)
+  {
+    const KeywordScanner::Line line = scanner.scan(rest);
+    if (line.keywords != 0)
+      starts.push_back(text.size() - rest.size());
+    rest = line.rest;
+  }
+  return starts;
+}
+
+TEST(KeywordFinder, FindsTheLinesThatAWalkFinds)
+{
+  std::mt19937 random(9);
+  for (const std::size_t size : {0u, 1u, 50u, 1000u, 65536u, 65537u, 200000u, 300000u})
+    for (const unsigned rarity : {1u, 30u, 3000u})
+    {
+      std::string text;
+      while (text.size() < size)
+      {
+        if (random() % rarity == 0)
+          text += keywords[random() % std::size(keywords)];
+        text += random() % 40 == 0 ? "\r\n" : random() % 300 == 0 ? "\r" : std::string(1, "xyzdanm=0"[random() % 9]);
+      }
+      text.resize(size);
+      ASSERT_EQ(linesFound(text), linesWalked(text)) << size << " bytes, one in " << rarity;
+    }
+}
+
+TEST(KeywordFinder, FindsAKeywordAtEveryPlace)
+{
+  std::string text(70000, '.');
+  for (std::size_t at = 16300; at < 16500; ++at) // around the seam of two machines
+  {
+    text.replace(at, 13, "class MISSION");
+    ASSERT_EQ(linesFound(text).size(), 1u) << at;
+    text.replace(at, 13, ".............");
+  }
+  for (std::size_t at = 65500; at < 65560; ++at) // around the seam of two windows
+  {
+    text.replace(at, 13, "class MISSION");
+    ASSERT_EQ(linesFound(text).size(), 1u) << at;
+    text.replace(at, 13, ".............");
   }
 }
 
