@@ -140,8 +140,8 @@ void addSound(std::string& text, const ZaznamZvuku& sound)
   addLine(text, "    class " + sound.Jmeno);
   addLine(text, "    {");
   addLine(text, "         name=" + quoted(sound.Nazev) + ";");
-  addLine(text, "         sound[]={" + quoted("\\sound\\" + sound.Soubor) + loudness(sound.Hlasitost, sound.Hloubka) +
-                    "};");
+  addLine(text,
+          "         sound[]={" + quoted("\\sound\\" + sound.Soubor) + loudness(sound.Hlasitost, sound.Hloubka) + "};");
   addLine(text, "         titles[]=");
   addLine(text, "         {");
   int written = 0; // the stringtable numbers by place instead

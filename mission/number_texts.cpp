@@ -22,9 +22,9 @@ std::string plainText(float value)
   if (value == 0)
     return "0"; // a negative zero too
   char buffer[32];
-  const char* const end =
-      std::to_chars(buffer, buffer + sizeof buffer, std::abs(value), std::chars_format::scientific, significantDigits - 1)
-          .ptr;
+  const char* const end = std::to_chars(buffer, buffer + sizeof buffer, std::abs(value), std::chars_format::scientific,
+                                        significantDigits - 1)
+                              .ptr;
   const std::string_view scientific(buffer, static_cast<std::size_t>(end - buffer)); // "d.dddddde+XX"
   const std::size_t exponentAt = scientific.find('e');
   std::string digits = std::string(scientific.substr(0, 1)) + std::string(scientific.substr(2, exponentAt - 2));

@@ -25,16 +25,16 @@ constexpr int grenadesField = 5;
 
 /// Fields that hold nothing but a number. The magazines of the rifles with a launcher are "n/m" and stay out.
 Text* const numberFields[] = {
-    &frmmain.M16pocet,    &frmmain.M16naboje,     &frmmain.M16GLpocet,   &frmmain.M4pocet,       &frmmain.M4naboje,
-    &frmmain.HKpocet,     &frmmain.HKnaboje,      &frmmain.M60pocet,     &frmmain.M60naboje,     &frmmain.M21pocet,
-    &frmmain.M21naboje,   &frmmain.LLpocet,       &frmmain.LLnaboje,     &frmmain.CGLpocet,      &frmmain.CGLnaboje,
-    &frmmain.AALpocet,    &frmmain.AALnaboje,     &frmmain.Ak74pocet,    &frmmain.Ak74naboje,    &frmmain.Ak74SUpocet,
-    &frmmain.Ak74Sunaboje, &frmmain.Ak74GLpocet,  &frmmain.Ak47pocet,    &frmmain.Ak47naboje,    &frmmain.Ak47CZpocet,
-    &frmmain.Ak47CZnaboje, &frmmain.Ak47GLpocet,  &frmmain.SVDDpocet,    &frmmain.SVDDnaboje,    &frmmain.Pkpocet,
-    &frmmain.Pknaboje,    &frmmain.RPGLpocet,     &frmmain.RPGLnaboje,   &frmmain.AT4Lpocet,     &frmmain.AT4Lnaboje,
-    &frmmain.K32Lpocet,   &frmmain.K32Lnaboje,    &frmmain.kozliceshell, &frmmain.kozliceball,   &frmmain.HGpocet,
-    &frmmain.PBpocet,     &frmmain.Mpocet,        &frmmain.Mortarpocet,  &frmmain.Flarepocet,    &frmmain.SSpocet,
-    &frmmain.FRpocet,     &frmmain.SSRpocet,      &frmmain.Bpocet,       &frmmain.NVpocet,
+    &frmmain.M16pocet,     &frmmain.M16naboje,   &frmmain.M16GLpocet,   &frmmain.M4pocet,     &frmmain.M4naboje,
+    &frmmain.HKpocet,      &frmmain.HKnaboje,    &frmmain.M60pocet,     &frmmain.M60naboje,   &frmmain.M21pocet,
+    &frmmain.M21naboje,    &frmmain.LLpocet,     &frmmain.LLnaboje,     &frmmain.CGLpocet,    &frmmain.CGLnaboje,
+    &frmmain.AALpocet,     &frmmain.AALnaboje,   &frmmain.Ak74pocet,    &frmmain.Ak74naboje,  &frmmain.Ak74SUpocet,
+    &frmmain.Ak74Sunaboje, &frmmain.Ak74GLpocet, &frmmain.Ak47pocet,    &frmmain.Ak47naboje,  &frmmain.Ak47CZpocet,
+    &frmmain.Ak47CZnaboje, &frmmain.Ak47GLpocet, &frmmain.SVDDpocet,    &frmmain.SVDDnaboje,  &frmmain.Pkpocet,
+    &frmmain.Pknaboje,     &frmmain.RPGLpocet,   &frmmain.RPGLnaboje,   &frmmain.AT4Lpocet,   &frmmain.AT4Lnaboje,
+    &frmmain.K32Lpocet,    &frmmain.K32Lnaboje,  &frmmain.kozliceshell, &frmmain.kozliceball, &frmmain.HGpocet,
+    &frmmain.PBpocet,      &frmmain.Mpocet,      &frmmain.Mortarpocet,  &frmmain.Flarepocet,  &frmmain.SSpocet,
+    &frmmain.FRpocet,      &frmmain.SSRpocet,    &frmmain.Bpocet,       &frmmain.NVpocet,
 };
 
 /// A check that sets others when it is set.
@@ -158,21 +158,14 @@ void Text1_Change(Text& field, int index)
       attempt([&] { frmmain.seznamzbrani.setText(frmmain.seznamzbrani.index(), field.text()); });
     attempt([&] { highlighted().Titulek = field.text(); });
     break;
-  case classField:
-    attempt([&] { highlighted().Jmeno = field.text(); });
-    break;
-  case magazinesField:
-    attempt([&] { highlighted().Zasobniky = field.text(); });
-    break;
+  case classField: attempt([&] { highlighted().Jmeno = field.text(); }); break;
+  case magazinesField: attempt([&] { highlighted().Zasobniky = field.text(); }); break;
   case countField:
     FiltrujCislo(field);
     attempt([&] { highlighted().Pocet = integerVal(field.text()); });
     break;
-  case grenadesField:
-    attempt([&] { highlighted().Granaty = field.text(); });
-    break;
-  default:
-    break;
+  case grenadesField: attempt([&] { highlighted().Granaty = field.text(); }); break;
+  default: break;
   }
 }
 
@@ -217,9 +210,7 @@ LoggedSteps fileSteps(std::string what, std::string path)
 {
   return LoggedSteps(
       [what = std::move(what), path = std::move(path)](const Failure& failure)
-      {
-        return what + path + ", " + std::to_string(failure.number) + ", " + failure.description + std::string(crlf);
-      });
+      { return what + path + ", " + std::to_string(failure.number) + ", " + failure.description + std::string(crlf); });
 }
 
 void cmdsaveaddons_Click()
