@@ -7,5 +7,6 @@ namespace tarvelin::message
 inline constexpr int logsDeleted = 5;       ///< behind the number of deleted log files
 inline constexpr int languageInUse = 8;     ///< the chosen language is the one in use
 inline constexpr int noMissionOpen = 14;    ///< a command that needs an open mission
+inline constexpr int previewLeft = 22;      ///< the preview left a file that is being replaced
 
 } // namespace tarvelin::message

@@ -19,6 +19,7 @@
 #include "mission/sqm_writer.h"
 #include "mission/stringtable_writer.h"
 #include "panels/sound_copy.h"
+#include "panels/weapons.h"
 #include "script/word_search.h"
 #include "tools/mission_readme.h"
 
@@ -55,9 +56,11 @@ constexpr luaL_Reg procedures[] = {
     entry<BNajdi2>("BNajdi2"),
     entry<BezUvozovek>("BezUvozovek"),
     entry<DejJmenoSouboru>("DejJmenoSouboru"),
+    entry<FiltrujCislo>("FiltrujCislo"),
     entry<HodnotaRadku>("HodnotaRadku"),
     entry<Jazyky>("Jazyky"),
     entry<KopirujZvuky>("KopirujZvuky"),
+    entry<NactiAddony>("NactiAddony"),
     entry<NactiBriefing>("NactiBriefing"),
     entry<NactiDescription>("NactiDescription"),
     entry<NactiJazyk>("NactiJazyk"),
