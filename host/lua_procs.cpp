@@ -81,6 +81,9 @@ constexpr luaL_Reg procedures[] = {
     entry<UlozStringtable>("UlozStringtable"),
     entry<ZapisLog>("ZapisLog"),
     entry<ZkontrolujPrikazovyRadek>("ZkontrolujPrikazovyRadek"),
+    entry<createBriefing>("createBriefing"),
+    entry<createDescription>("createDescription"),
+    entry<createOverview>("createOverview"),
     {nullptr, nullptr},
 };
 

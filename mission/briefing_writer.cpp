@@ -128,8 +128,7 @@ void UlozBriefing(const std::string& cesta, const std::string& plan, const std::
                failure.description + std::string(crlf);
       });
   ZapisLog("Vytváření: " + cesta + std::string(crlf));
-  if (!steps([&] { platform::writeFile(cesta, {}); }))
-    return;
+  steps([&] { platform::writeFile(cesta, {}); });
   std::string page = pageHead("Operation Flashpoint User Misssion Briefing"); // the game's players know it misspelt
   addNotes(page, poznamky);
   addPlan(page, plan);

@@ -39,6 +39,7 @@ void logLine(const std::string& line)
 
 void frmopenmission_Load()
 {
+  attempt([] { platform::setCurrentFolder(shared.CestaHry); });
   startPickerIn(shared.CestaHry, frmopenmission.Drive1, frmopenmission.Dir1);
 }
 
@@ -148,7 +149,6 @@ void Akce()
 void NactiSoubory()
 {
   attempt([] { frmmain.otevreneskripty.setPath(shared.CestaMise); });
-  frmmain.otevreneskripty.refresh();
   if (frmopenmission.chknacist.checked())
   {
     const std::string description = shared.CestaMise + "Description.ext";
