@@ -1,6 +1,10 @@
 #include "panels/panels_handlers.h"
 
 #include "panels/weapons.h"
+#include "panels/environment_sounds.h"
+#include "panels/more_settings.h"
+#include "panels/sound_effects.h"
+#include "panels/titles.h"
 
 namespace tarvelin
 {
@@ -8,6 +12,10 @@ namespace tarvelin
 void attachPanels()
 {
   attachWeapons();
+  attachEnvironmentSounds();
+  attachSoundEffects();
+  attachTitles();
+  attachMoreSettings();
 }
 
 } // namespace tarvelin
