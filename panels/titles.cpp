@@ -14,6 +14,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace tarvelin
 {

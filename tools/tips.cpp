@@ -9,6 +9,7 @@
 #include "platform/files.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace tarvelin
 {
