@@ -212,11 +212,14 @@ struct ZaznamIdentity
   }
 };
 
-/// An environment sound. `Nazev` and `Jmeno` are 255 characters wide, padded with blanks, once they were written.
+/// Characters of the fixed texts of an environment sound.
+inline constexpr int fixedTextWidth = 255;
+
+/// An environment sound. `Nazev` and `Jmeno` are always 255 characters wide, padded with blanks.
 struct ZaznamOkoli
 {
-  std::string Nazev;
-  std::string Jmeno;
+  std::string Nazev = std::string(fixedTextWidth, ' ');
+  std::string Jmeno = std::string(fixedTextWidth, ' ');
   std::string Den; ///< full path
   std::string DenHlasitost;
   std::string DenHloubka;

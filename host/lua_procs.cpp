@@ -18,10 +18,12 @@
 #include "mission/sqm_reader.h"
 #include "mission/sqm_writer.h"
 #include "mission/stringtable_writer.h"
+#include "panels/environment_sounds.h"
 #include "panels/sound_copy.h"
 #include "panels/weapons.h"
 #include "script/word_search.h"
 #include "tools/mission_readme.h"
+#include "tools/tips.h"
 
 namespace tarvelin::host
 {
@@ -51,6 +53,7 @@ template <auto procedure> constexpr luaL_Reg entry(const char* name)
 }
 
 constexpr luaL_Reg procedures[] = {
+    entry<AddonyDoTextu>("AddonyDoTextu"),
     entry<Akce>("Akce"),
     entry<BNajdi>("BNajdi"),
     entry<BNajdi2>("BNajdi2"),
@@ -71,8 +74,10 @@ constexpr luaL_Reg procedures[] = {
     entry<NactiSoubory>("NactiSoubory"),
     entry<NactiSqm>("NactiSqm"),
     entry<NactiStranky>("NactiStranky"),
+    entry<NactiTip>("NactiTip"),
     entry<SlozkaSouboru>("SlozkaSouboru"),
     entry<SpocitejSoubory>("SpocitejSoubory"),
+    entry<Tlacitka>("Tlacitka"),
     entry<UlozBriefing>("UlozBriefing"),
     entry<UlozDescription>("UlozDescription"),
     entry<UlozNastaveni>("UlozNastaveni"),

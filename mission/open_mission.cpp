@@ -20,6 +20,7 @@
 #include "mission/mission_reset.h"
 #include "mission/overview_reader.h"
 #include "mission/sqm_reader.h"
+#include "panels/more_settings.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 
@@ -171,6 +172,9 @@ void NactiSoubory()
       attempt([&] { NactiOverview(shared.CestaMise + overview, frmmain.txtOverview); });
       logFound(overview);
     }
+    const std::string stringtable = shared.CestaMise + "Stringtable.csv";
+    if (platform::fileExists(stringtable))
+      readStringtable(stringtable);
   }
   Form3.hide();
 }

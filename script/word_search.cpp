@@ -21,7 +21,7 @@ int halved(int sum)
 }
 
 /// `compared(row)` gives the part of a row's text that is compared.
-template <class Compared> int search(int first, int last, const std::string& needle, const List& list, Compared compared)
+template <class Compared> int search(int first, int last, const std::string& needle, const Rows& list, Compared compared)
 {
   for (;;)
   {
@@ -41,7 +41,7 @@ template <class Compared> int search(int first, int last, const std::string& nee
 }
 
 template <class Compared>
-int searchLogged(std::string_view function, int first, int last, std::string_view needle, const List& list,
+int searchLogged(std::string_view function, int first, int last, std::string_view needle, const Rows& list,
                  Compared compared)
 {
   int found = -1;
@@ -58,14 +58,14 @@ int searchLogged(std::string_view function, int first, int last, std::string_vie
 
 } // namespace
 
-int BNajdi(int first, int last, std::string_view needle, const List& list)
+int BNajdi(int first, int last, std::string_view needle, const Rows& list)
 {
   const int size = static_cast<int>(length(needle));
   return searchLogged("BNajdi", first, last, needle, list,
                       [size](const std::string& item) { return trim(left(item, size)); });
 }
 
-int BNajdi2(int first, int last, std::string_view needle, const List& list)
+int BNajdi2(int first, int last, std::string_view needle, const Rows& list)
 {
   return searchLogged("BNajdi2", first, last, needle, list, [](const std::string& item) { return item; });
 }

@@ -10,4 +10,7 @@ class RichText;
 /// Fills the readme template into a field, with its tags replaced. Failures are logged.
 void NactiReadme(const std::string& path, RichText& box);
 
+/// Names of the mission's add-ons, each once and on a line of its own.
+std::string AddonyDoTextu();
+
 } // namespace tarvelin

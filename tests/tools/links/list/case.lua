@@ -1,0 +1,22 @@
+-- Web links: the lines of the catalogue as they stand, opened trimmed.
+write_file(home .. "/Bfdata/ofpsites.dat", "http://b.example/\r\n\r\n  http://a.example/?q=\"x y\"&\xE8  \r\nlast")
+local opened = {}
+on.browse = function(address) opened[#opened + 1] = address end
+start()
+equal(rows(Form4.List1), "http://b.example/||  http://a.example/?q=\"x y\"&č  |last", "the lines as they stand")
+frmmain.mnunet:click()
+equal(Form4.visible, true, "the menu shows the form")
+equal(Form4.modal, false, "beside the main window")
+equal(#Form4.List1, 4, "the list is filled once")
+Form4.Command1:click()
+equal(#opened, 0, "with nothing highlighted nothing is opened")
+contains(log(), "Chyba při pokusu o otevření HTML stránky: , 5, Invalid procedure call or argument\r\n", "and the failure is logged")
+Form4.List1:select(2)
+Form4.Command1:click()
+equal(opened[1], "http://a.example/?q=\"x y\"&č", "opened without the blanks around")
+Form4.List1:select(3)
+Form4.Command1:click()
+equal(opened[2], "last", "whatever the line says")
+Form4.Command2:click()
+equal(Form4.visible, false, "Command2 hides the form")
+equal(#opened, 2, "and opens nothing")

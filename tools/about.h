@@ -1,0 +1,9 @@
+#pragma once
+
+namespace tarvelin
+{
+
+/// Puts the handlers of the windows about the program and about the game on their fields.
+void attachAbout();
+
+} // namespace tarvelin
