@@ -19,6 +19,8 @@
 #include "mission/sqm_writer.h"
 #include "mission/stringtable_writer.h"
 #include "panels/environment_sounds.h"
+#include "panels/identities.h"
+#include "panels/picture_picker.h"
 #include "panels/sound_copy.h"
 #include "panels/weapons.h"
 #include "script/word_search.h"
@@ -68,6 +70,8 @@ constexpr luaL_Reg procedures[] = {
     entry<NactiDescription>("NactiDescription"),
     entry<NactiJazyk>("NactiJazyk"),
     entry<NactiNastaveni>("NactiNastaveni"),
+    entry<NactiObliceje>("NactiObliceje"),
+    entry<NactiObrazek>("NactiObrazek"),
     entry<NactiOstrovy>("NactiOstrovy"),
     entry<NactiOverview>("NactiOverview"),
     entry<NactiReadme>("NactiReadme"),
@@ -89,6 +93,7 @@ constexpr luaL_Reg procedures[] = {
     entry<createBriefing>("createBriefing"),
     entry<createDescription>("createDescription"),
     entry<createOverview>("createOverview"),
+    entry<brejle>("brejle"),
     {nullptr, nullptr},
 };
 

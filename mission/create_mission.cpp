@@ -57,9 +57,11 @@ void writeOverviews()
     writeOverview(name);
 }
 
-/// Copies over an older file, read-only or not.
+/// Copies over an older file, read-only or not. A picture that lies there already stays.
 void copyPicture(const std::string& from, const std::string& to)
 {
+  if (platform::sameFile(from, to))
+    return;
   if (platform::copyFile(from, to, true))
     return;
   attempt([&] { platform::clearAttributes(to); });

@@ -2,6 +2,7 @@
 
 #include "mission/create_mission.h"
 #include "mission/open_mission.h"
+#include "mission/previews.h"
 
 namespace tarvelin
 {
@@ -10,6 +11,7 @@ void attachMission()
 {
   attachOpenMission();
   attachCreateMission();
+  attachPreviews();
 }
 
 } // namespace tarvelin

@@ -5,6 +5,8 @@
 #include "panels/sound_effects.h"
 #include "panels/titles.h"
 #include "panels/weapons.h"
+#include "panels/identities.h"
+#include "panels/picture_picker.h"
 
 namespace tarvelin
 {
@@ -16,6 +18,8 @@ void attachPanels()
   attachSoundEffects();
   attachTitles();
   attachMoreSettings();
+  attachPicturePicker();
+  attachIdentities();
 }
 
 } // namespace tarvelin
