@@ -24,8 +24,8 @@ std::string chosenSize(const Combo& sizes)
 /// Whatever the picture was called, in the mission folder it is "pic" and its extension.
 std::string imageTag()
 {
-  return "<IMG src=\"pic." + right(shared.CilObrazku, 3) + "\" width=\"" + chosenSize(frmmain.Sirka) +
-         "\" height=\"" + chosenSize(frmmain.Vyska) + "\">";
+  return "<IMG src=\"pic." + right(shared.CilObrazku, 3) + "\" width=\"" + chosenSize(frmmain.Sirka) + "\" height=\"" +
+         chosenSize(frmmain.Vyska) + "\">";
 }
 
 void addPicture(std::string& page, const LoggedSteps& steps)

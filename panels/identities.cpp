@@ -73,9 +73,8 @@ ZaznamIdentity& current()
 /// What can be edited only while there is an identity.
 void enableFields(bool on)
 {
-  for (Field* const field :
-       std::initializer_list<Field*>{&Form2.Text1, &Form2.Text2, &Form2.hlasy, &Form2.ksichty, &Form2.bryle,
-                                     &Form2.List1})
+  for (Field* const field : std::initializer_list<Field*>{&Form2.Text1, &Form2.Text2, &Form2.hlasy, &Form2.ksichty,
+                                                          &Form2.bryle, &Form2.List1})
     field->enable(on);
 }
 
@@ -283,9 +282,7 @@ void removeCustomFace()
 void NactiObliceje(const std::string& file, Combo& combo, bool storeCodes)
 {
   const auto report = [&](const Failure& failure)
-  {
-    ZapisLog("Nastala chyba při načítání obličejů z: " + file + ", " + failureText(failure) + std::string(crlf));
-  };
+  { ZapisLog("Nastala chyba při načítání obličejů z: " + file + ", " + failureText(failure) + std::string(crlf)); };
   ZapisLog("Začíná načítání Obliceju" + std::string(crlf));
   std::optional<LineReader> lines;
   attempt([&] { lines.emplace(file); }, report);

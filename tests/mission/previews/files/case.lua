@@ -1,0 +1,51 @@
+-- The window that shows the generated files.
+local folder = mission("m.Eden")
+local help = path(home) .. "\\Bfdata\\dokumentace\\index.html"
+start()
+equal(frmnahled.nahledbrowser.address, "", "nothing is shown before the window was opened")
+frmmain.mnushowfiles:click()
+equal(frmnahled.visible, true, "the menu shows it")
+equal(frmnahled.nahledbrowser.address, help, "with the help")
+equal(frmnahled.caption, "C171", "under the pack's title")
+
+-- no mission, no page
+local from = #log()
+frmnahled.cmdbriefing:click()
+frmnahled.cmdoverview:click()
+equal(frmnahled.nahledbrowser.address, help, "no mission: nothing happens")
+equal(frmnahled.caption, "C171", "the title stays")
+open_mission(folder, false)
+local asked = #events
+frmnahled.cmdbriefing:click()
+frmnahled.cmdoverview:click()
+equal(frmnahled.caption, "C171", "no page: the title stays")
+equal(#events, asked, "and nothing is asked")
+
+-- one page each
+write_file(folder .. "/my old BRIEFING.HTML", "<HTML></HTML>")
+write_file(folder .. "/Overview.Czech.html", "<HTML></HTML>")
+write_file(folder .. "/Briefing.htm", "no page")
+frmnahled.cmdbriefing:click()
+equal(frmnahled.nahledbrowser.address, path(folder) .. "\\my old BRIEFING.HTML", "the one briefing, whatever its case")
+equal(frmnahled.caption, "Náhled souborů: my old BRIEFING.HTML", "its name in the title")
+frmnahled.cmdoverview:click()
+equal(frmnahled.nahledbrowser.address, path(folder) .. "\\Overview.Czech.html", "the one overview")
+equal(frmnahled.caption, "Náhled souborů: Overview.Czech.html", "its name in the title")
+equal(#events, asked, "one page is no question")
+
+-- the others are shown unseen
+frmnahled.cmddescription:click()
+equal(frmnahled.nahledbrowser.address, path(folder) .. "\\Description.ext", "the description")
+equal(frmnahled.caption, "Náhled souborů: Description.ext", "its title")
+frmnahled.cmdukaystrtable:click()
+equal(frmnahled.nahledbrowser.address, path(folder) .. "\\Stringtable.csv", "the string table")
+equal(frmnahled.caption, "Náhled souborů: Stringtable.csv", "its title")
+frmnahled.cmdnapoveda:click()
+equal(frmnahled.nahledbrowser.address, help, "the help again")
+equal(frmnahled.caption, "Náhled souborů: Nápověda", "its title")
+frmnahled.cmddescription:click()
+frmnahled.cmdOk:click()
+equal(frmnahled.visible, false, "OK hides the window")
+frmmain.mnushowfiles:click()
+equal(frmnahled.nahledbrowser.address, path(folder) .. "\\Description.ext", "and the next showing goes on where it was")
+lacks(log():sub(from + 1), "k náhledu", "nothing failed")
