@@ -59,6 +59,7 @@ void takeFace()
 void takeMissionPicture()
 {
   const std::string& name = Frmopen.File1.selected();
+  shared.CestaObrazku = chosenFile(Frmopen.File1); // the highlight outlives a cancel, the path does not
   shared.CilObrazku = shared.CestaMise + "pic." + right(name, 3);
   frmmain.lbljmeno.setCaption(name);
   Frmopen.File1.setPattern("*.jpg;*.paa*");

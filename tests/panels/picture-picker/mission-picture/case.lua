@@ -73,3 +73,9 @@ equal(log():sub(from + 1), "Načítání obrázku\r\nStornování operace Načí
 equal(shared.CestaObrazku .. "|" .. shared.CilObrazku, "|" .. path(folder) .. "\\pic.jpg", "cancel empties the source alone")
 equal(frmmain.lbljmeno.caption, "later.jpg", "the name stays")
 equal(Frmopen.visible, false, "and hides the picker")
+
+-- what is still highlighted at the next showing can be taken at once
+frmmain.cmdnic:click()
+on.modal.Frmopen = function(form) form.cmdOk:click() end
+frmmain.cmdopen:click()
+equal(shared.CestaObrazku .. "|" .. frmmain.lbljmeno.caption, path(pictures) .. "\\Mapa.PAA|Mapa.PAA", "OK alone takes the highlighted file")
