@@ -1,9 +1,8 @@
-#include "panels/picture_picker.h"
-
 #include "app/assemble.h"
 #include "core/forms/frmmain.h"
 #include "core/forms/frmopen.h"
 #include "core/shared.h"
+#include "panels/picture_picker.h"
 #include "platform/paths.h"
 #include "tests/test_home.h"
 
