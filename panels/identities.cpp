@@ -237,13 +237,16 @@ void seznamidentit_Click()
   attempt([] { showFace(std::string(current().Oblicej)); });
 }
 
+/// The picker leaves its choice where the overview's picture is kept, which is none of the identities' business.
 void Command1_Click()
 {
+  const std::string overviewPicture = shared.CestaObrazku;
   Frmopen.ProOblicej = true;
   Frmopen.ProKampan = false;
   Frmopen.File1.setPattern("*.jpg;*.paa*");
   Frmopen.showModal();
   Frmopen.ProOblicej = false;
+  shared.CestaObrazku = overviewPicture;
 }
 
 void cmdOk_Click()

@@ -74,6 +74,18 @@ os.execute("rm -r '" .. player .. "'")
 frmmain.cmdvytvor:click()
 equal(exists(player), false, "the player's folder is not made")
 
+-- the overview's picture is another one
+write_file(work .. "/map.jpg", jpeg(8, 8))
+pick_picture(work, "map.jpg")
+frmmain.cmdopen:click()
+for _, command in ipairs{"cmdOk", "cmdstorno"} do
+  pick_picture(faces, "ty.paa", command)
+  Form2.Command1:click()
+  equal(shared.CestaObrazku .. "|" .. frmmain.lbljmeno.caption, path(work) .. "\\map.jpg|map.jpg", command .. " for a face leaves the overview's picture alone")
+end
+pick_picture(faces, "já; 1.jpg")
+Form2.Command1:click()
+
 -- cancelling leaves the face; a stock face drops the picture
 pick_picture(faces, "já; 1.jpg", "cmdstorno")
 from = #log()
