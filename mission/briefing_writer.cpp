@@ -5,7 +5,7 @@
 #include "core/forms/tmpfrm.h"
 #include "core/logged_steps.h"
 #include "core/run_log.h"
-#include "core/shared.h"
+#include "core/sides.h"
 #include "core/strings.h"
 #include "core/text_file.h"
 #include "mission/page.h"
@@ -16,28 +16,6 @@ namespace tarvelin
 
 namespace
 {
-
-/// A side as the page knows it. Comments and anchors are part of the format: readers search for them as they are.
-struct Side
-{
-  std::string_view comment;
-  std::string_view anchor;
-  std::string_view objectivePrefix;
-  const std::string& notes;
-  const std::string& plan;
-  const Array<ZaznamUkolu>& objectives;
-  const std::int16_t& objectiveCount;
-};
-
-const Side sides[] = {
-    {"zapad", "west", "OBJ_WEST_", shared.PoznamkyZapad, shared.PlanZapad, shared.UkolyZapad, shared.PocetUkoluZapad},
-    {"vychod", "east", "OBJ_EAST_", shared.PoznamkyVychod, shared.PlanVychod, shared.UkolyVychod,
-     shared.PocetUkoluVychod},
-    {"partyzani", "guerrila", "OBJ_GUERRILA_", shared.PoznamkyPartyzani, shared.PlanPartyzani, shared.UkolyPartyzani,
-     shared.PocetUkoluPartyzani},
-    {"civilisty", "civilian", "OBJ_CIVILIAN_", shared.PoznamkyCivilisti, shared.PlanCivilisti, shared.UkolyCivilisti,
-     shared.PocetUkoluCivilisti},
-};
 
 bool severalSides()
 {
@@ -73,15 +51,15 @@ void addPlan(std::string& page, const std::string& plan)
 }
 
 /// Used objectives are numbered from 1 without gaps, whatever holes the array has.
-void addObjectives(std::string& page, std::string_view prefix, const Array<ZaznamUkolu>& objectives, int count,
+void addObjectives(std::string& page, std::string_view prefix, const ObjectiveStore& objectives,
                    const LoggedSteps& steps)
 {
   int n = 0;
-  for (int i = 0; i < count; ++i)
+  for (int i = 0; i < objectives.count; ++i)
     steps(
         [&]
         {
-          const ZaznamUkolu& objective = objectives.at(i);
+          const ZaznamUkolu& objective = objectives.records.at(i);
           if (objective.Pouzit != -1)
             return;
           ++n;
@@ -95,9 +73,9 @@ void addObjectives(std::string& page, std::string_view prefix, const Array<Zazna
 void addAllObjectives(std::string& page, const LoggedSteps& steps)
 {
   if (!severalSides())
-    return addObjectives(page, "OBJ_", shared.Ukoly, shared.PocetUkolu, steps);
+    return addObjectives(page, "OBJ_", commonObjectives, steps);
   for (const Side& side : sides)
-    addObjectives(page, side.objectivePrefix, side.objectives, side.objectiveCount, steps);
+    addObjectives(page, "OBJ_" + upper(side.anchor) + "_", side.objectives, steps);
 }
 
 void addEnds(std::string& page, const LoggedSteps& steps)

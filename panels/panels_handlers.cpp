@@ -1,12 +1,15 @@
 #include "panels/panels_handlers.h"
 
+#include "panels/debriefing.h"
 #include "panels/environment_sounds.h"
+#include "panels/identities.h"
 #include "panels/more_settings.h"
+#include "panels/objectives.h"
+#include "panels/picture_picker.h"
 #include "panels/sound_effects.h"
+#include "panels/text_editors.h"
 #include "panels/titles.h"
 #include "panels/weapons.h"
-#include "panels/identities.h"
-#include "panels/picture_picker.h"
 
 namespace tarvelin
 {
@@ -20,6 +23,9 @@ void attachPanels()
   attachMoreSettings();
   attachPicturePicker();
   attachIdentities();
+  attachTextEditors();
+  attachObjectives();
+  attachDebriefing();
 }
 
 } // namespace tarvelin
