@@ -7,6 +7,10 @@
 #include "panels/weapons.h"
 #include "panels/identities.h"
 #include "panels/picture_picker.h"
+#include "panels/sound_copy.h"
+#include "panels/sound_intake.h"
+#include "panels/sound_tools.h"
+#include "panels/sounds.h"
 
 namespace tarvelin
 {
@@ -20,6 +24,10 @@ void attachPanels()
   attachMoreSettings();
   attachPicturePicker();
   attachIdentities();
+  attachSounds();
+  attachSoundIntake();
+  attachSoundCopy();
+  attachSoundTools();
 }
 
 } // namespace tarvelin
