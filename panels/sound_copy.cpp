@@ -139,9 +139,13 @@ void copyEffects()
     step(
         [&]
         {
-          const Array<ZaznamSfxZvuku>& sounds = shared.Sfx.at(i).Zvuky;
-          for (int j = 0; j < sounds.bound(); ++j)
-            copyByPath(sounds.at(j).Soubor, "sound\\");
+          // looked up each time: the user may act between two files
+          const auto sounds = [&]() -> const auto&
+          {
+            return shared.Sfx.at(i).Zvuky;
+          };
+          for (int j = 0; j < sounds().bound(); ++j)
+            copyByPath(sounds().at(j).Soubor, "sound\\");
         });
     progress();
   }
@@ -155,10 +159,13 @@ void copyTitlePictures()
       step(
           [&]
           {
-            const Array<TitulPrvek>& controls = shared.Tituly.at(i).Prvky;
-            for (int j = 0; j <= controls.bound(); ++j)
-              if (controls.at(j).Druh == 1)
-                copyByPath(controls.at(j).Text, "");
+            const auto controls = [&]() -> const auto&
+            {
+              return shared.Tituly.at(i).Prvky;
+            };
+            for (int j = 0; j <= controls().bound(); ++j)
+              if (controls().at(j).Druh == 1)
+                copyByPath(controls().at(j).Text, "");
           });
 }
 
