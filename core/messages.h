@@ -4,9 +4,12 @@ namespace tarvelin::message
 {
 
 // Places of the messages in the language packs (Hlasky).
+inline constexpr int noSoundChosen = 1;     ///< a sound tool without a file
+inline constexpr int copySlow[] = {2, 3, 4}; ///< a sound does not reach the tools' folder, whose name follows
 inline constexpr int logsDeleted = 5;       ///< behind the number of deleted log files
 inline constexpr int languageInUse = 8;     ///< the chosen language is the one in use
 inline constexpr int noMissionOpen = 14;    ///< a command that needs an open mission
+inline constexpr int copySlowEnd = 15;      ///< behind the name of the tools' folder
 inline constexpr int previewLeft = 22;      ///< the preview left a file that is being replaced
 
 } // namespace tarvelin::message

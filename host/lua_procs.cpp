@@ -23,6 +23,8 @@
 #include "panels/picture_picker.h"
 #include "panels/sound_copy.h"
 #include "panels/weapons.h"
+#include "panels/sound_tools.h"
+#include "panels/sounds.h"
 #include "script/word_search.h"
 #include "tools/mission_readme.h"
 #include "tools/tips.h"
@@ -64,6 +66,7 @@ constexpr luaL_Reg procedures[] = {
     entry<FiltrujCislo>("FiltrujCislo"),
     entry<HodnotaRadku>("HodnotaRadku"),
     entry<Jazyky>("Jazyky"),
+    entry<Jazyky2>("Jazyky2"),
     entry<KopirujZvuky>("KopirujZvuky"),
     entry<NactiAddony>("NactiAddony"),
     entry<NactiBriefing>("NactiBriefing"),
@@ -82,6 +85,7 @@ constexpr luaL_Reg procedures[] = {
     entry<SlozkaSouboru>("SlozkaSouboru"),
     entry<SpocitejSoubory>("SpocitejSoubory"),
     entry<Tlacitka>("Tlacitka"),
+    entry<SpustAkci>("SpustAkci"),
     entry<UlozBriefing>("UlozBriefing"),
     entry<UlozDescription>("UlozDescription"),
     entry<UlozNastaveni>("UlozNastaveni"),

@@ -10,6 +10,12 @@
 #include "panels/text_editors.h"
 #include "panels/titles.h"
 #include "panels/weapons.h"
+#include "panels/identities.h"
+#include "panels/picture_picker.h"
+#include "panels/sound_copy.h"
+#include "panels/sound_intake.h"
+#include "panels/sound_tools.h"
+#include "panels/sounds.h"
 
 namespace tarvelin
 {
@@ -26,6 +32,10 @@ void attachPanels()
   attachTextEditors();
   attachObjectives();
   attachDebriefing();
+  attachSounds();
+  attachSoundIntake();
+  attachSoundCopy();
+  attachSoundTools();
 }
 
 } // namespace tarvelin

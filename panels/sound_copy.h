@@ -7,4 +7,7 @@ namespace tarvelin
 /// Failures are logged.
 void KopirujZvuky();
 
+/// Puts the handler of the progress window (Form1) on its field.
+void attachSoundCopy();
+
 } // namespace tarvelin

@@ -1,0 +1,16 @@
+-- Dropping the subtitles of no sound: the campaign command has no protection.
+-- exit: 70
+-- stderr: run-time error 5: Invalid procedure call or argument
+local source = make_folder(work .. "/sounds")
+write_file(source .. "/a.ogg", "a")
+start()
+on.modal.frmnactizvuky = function(form)
+  form.Dir1.path = path(source)
+  form.File1:select("a.ogg")
+  form.cmdadd:click()
+  form.cmdopen:click()
+end
+frmcamp5.cmdnacistzvuk:click()
+equal(frmcamp5.cmdel.enabled, true, "the command is on")
+frmcamp5.cmdel:click()
+print("FAILED: the program goes on")
