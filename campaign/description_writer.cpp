@@ -206,10 +206,9 @@ void addLinks(Output& out, std::string_view blanks, const std::function<const Re
     out.attemptLine(
         [&]
         {
-          return std::string(blanks) +
-                 (last ? "end" + std::to_string(end) + " = "
-                       : endLine(end, record().*endLinks<Record>[end - 1], words)) +
-                 ";";
+          const auto link = endLinks<Record>.at(end - 1);
+          const std::string line = last ? "end" + std::to_string(end) + " = " : endLine(end, record().*link, words);
+          return std::string(blanks) + line + ";";
         });
   // no semicolon here: the game takes the end of the line
   out.attemptLine([&] { return std::string(blanks) + "lost = " + lostName(record().Lost, words, last); });

@@ -76,7 +76,8 @@ template <class Record> std::string& linkOf(Record& record, int tag)
     return record.Lost;
   if (tag < 1 || tag > lostTag)
     throw Failure(Fault::invalidCall);
-  return record.*endLinks<Record>[static_cast<std::size_t>(tag - 1)];
+  const auto link = endLinks<Record>.at(static_cast<std::size_t>(tag - 1));
+  return record.*link;
 }
 
 /// The link that txtdalsimise edits.
