@@ -1,5 +1,11 @@
 #include "host/lua_procs.h"
 
+#include "campaign/campaign_reset.h"
+#include "campaign/copying.h"
+#include "campaign/description_writer.h"
+#include "campaign/overview.h"
+#include "campaign/path_names.h"
+#include "campaign/tree.h"
 #include "core/folder_scan.h"
 #include "core/islands.h"
 #include "core/language.h"
@@ -62,11 +68,15 @@ constexpr luaL_Reg procedures[] = {
     entry<BNajdi>("BNajdi"),
     entry<BNajdi2>("BNajdi2"),
     entry<BezUvozovek>("BezUvozovek"),
+    entry<CisloZKlice>("CisloZKlice"),
     entry<DejJmenoSouboru>("DejJmenoSouboru"),
     entry<FiltrujCislo>("FiltrujCislo"),
     entry<HodnotaRadku>("HodnotaRadku"),
     entry<Jazyky>("Jazyky"),
     entry<Jazyky2>("Jazyky2"),
+    entry<JmenoZCesty>("JmenoZCesty"),
+    entry<KopirujKampan>("KopirujKampan"),
+    entry<KopirujSlozku>("KopirujSlozku"),
     entry<KopirujZvuky>("KopirujZvuky"),
     entry<NactiAddony>("NactiAddony"),
     entry<NactiBriefing>("NactiBriefing"),
@@ -82,12 +92,18 @@ constexpr luaL_Reg procedures[] = {
     entry<NactiSqm>("NactiSqm"),
     entry<NactiStranky>("NactiStranky"),
     entry<NactiTip>("NactiTip"),
+    entry<PrecislujKapitoly>("PrecislujKapitoly"),
+    entry<PrecislujMise>("PrecislujMise"),
+    entry<ResetKampan>("ResetKampan"),
     entry<SlozkaSouboru>("SlozkaSouboru"),
+    entry<SpocitejMise>("SpocitejMise"),
     entry<SpocitejSoubory>("SpocitejSoubory"),
     entry<Tlacitka>("Tlacitka"),
     entry<SpustAkci>("SpustAkci"),
     entry<UlozBriefing>("UlozBriefing"),
     entry<UlozDescription>("UlozDescription"),
+    entry<UlozKampanDescription>("UlozKampanDescription"),
+    entry<UlozKampanOverview>("UlozKampanOverview"),
     entry<UlozNastaveni>("UlozNastaveni"),
     entry<UlozOverview>("UlozOverview"),
     entry<UlozSqm>("UlozSqm"),

@@ -13,6 +13,6 @@ inline void addLine(std::string& text, std::string_view line)
 }
 
 /// Head of a page of the game, down to the line of blanks under the body tag.
-std::string pageHead(std::string_view title);
+std::string pageHead(std::string_view title, std::string_view generator = "Tarvelin 2.2");
 
 } // namespace tarvelin

@@ -105,6 +105,14 @@ void Picture::setColor(Colour color)
   notify({Change::colour});
 }
 
+void Picture::setSunken(bool on)
+{
+  if (m_sunken == on)
+    return;
+  m_sunken = on;
+  notify({Change::style});
+}
+
 void Picture::click()
 {
   if (onClick)

@@ -40,12 +40,17 @@ public:
   Colour color() const { return m_color; }
   void setColor(Colour color);
 
+  /// True while a picture that acts as a command is pressed.
+  bool sunken() const { return m_sunken; }
+  void setSunken(bool on);
+
   void click();
 
 private:
   std::string m_path;
   PictureSize m_size;
   Colour m_color = 0xFFFFFF;
+  bool m_sunken = false;
 };
 
 /// Size of a JPEG or a Windows bitmap, read from its head. Throws 53, 481.

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace tarvelin
+{
+
+/// Puts the handlers of the awards and penalties on their fields.
+void attachAwards();
+
+} // namespace tarvelin

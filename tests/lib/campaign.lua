@@ -1,0 +1,84 @@
+-- What the cases of the campaign wizard share; loaded with dofile(arg[1] .. "/campaign.lua").
+
+-- a known state: cancelling the first step resets the wizard, then the menu shows it
+function begin_campaign(commandline)
+  start(commandline or "")
+  frmcamp1.cmdstorno:click()
+  frmmain.mnucampaignedit:click()
+end
+
+-- what the mission picker will do: take mission.sqm of this native folder; nil presses its cancel command
+function pick(folder)
+  on.modal.frmopenmission = function(form)
+    if not folder then return form.Command2:click() end
+    form.Dir1.path = path(folder)
+    form.File1:select("mission.sqm")
+    form.Command1:click()
+  end
+end
+
+function chapter(name)
+  frmcamp4.cmdaddpart:click()
+  frmcamp4.txtpartname.text = name
+  frmcamp4.cmdaddpart:click()
+end
+
+function add_mission(chapter_key, folder)
+  frmcamp4.campfiles:click(chapter_key)
+  pick(folder)
+  frmcamp4.cmdaddmission:click()
+end
+
+-- the link editor on one node: pairs of tag and text
+function links(key, list)
+  frmcamp4.campfiles:click(key)
+  frmcamp4.cmdmissionedit:click()
+  for _, link in ipairs(list) do
+    frmcamp4.seznamakci:select(link[1] - 1)
+    frmcamp4.txtdalsimise.text = link[2]
+  end
+  frmcamp4.cmdmissionedit:click()
+end
+
+-- folder (native) and name by the first step: a typed folder is taken when the step is shown again
+function name_campaign(folder, name)
+  frmcamp1.txtkampcesta.text = path(folder)
+  frmcamp1.txtkampJmeno.text = name
+  frmcamp1.cmdNext:click()
+  frmcamp2.cmdPrev:click()
+end
+
+-- a file of a generated campaign against campaign/NAME beside the case
+function same_as_kept(folder, name)
+  same(read_file(folder .. "/" .. name), assert(read_file(case_folder .. "/campaign/" .. name)), name)
+end
+
+-- every path below a folder, folders with "/" behind, sorted by bytes, joined by blanks
+function everything(folder)
+  local names = {}
+  local command = "cd '" .. folder .. "' && find . -mindepth 1 \\( -type d -printf '%P/\\n' -o -printf '%P\\n' \\)"
+  for name in io.popen(command):lines() do names[#names + 1] = name end
+  table.sort(names)
+  return table.concat(names, " ")
+end
+
+-- tree keys and node texts as they are displayed
+function keys() return table.concat(frmcamp4.campfiles:keys(), " ") end
+function node_texts()
+  local texts = {}
+  for _, key in ipairs(frmcamp4.campfiles:keys()) do texts[#texts + 1] = frmcamp4.campfiles:node(key).text end
+  return table.concat(texts, "|")
+end
+
+-- boxes shown since the last call, as "TEXT/BUTTONS/ICON"
+local seen = 0
+function boxes()
+  local texts = {}
+  for i = seen + 1, #events do
+    if events[i].kind == "box" then
+      texts[#texts + 1] = events[i].text .. "/" .. events[i].buttons .. "/" .. events[i].icon
+    end
+  end
+  seen = #events
+  return table.concat(texts, " ")
+end
