@@ -62,6 +62,8 @@ void pushFormValue(lua_State* lua, const FormValueEntry& entry)
     push(lua, **text);
   else if (const auto* const number = std::get_if<std::int16_t*>(&entry.value))
     lua_pushinteger(lua, **number);
+  else if (const auto* const wide = std::get_if<std::int32_t*>(&entry.value))
+    lua_pushinteger(lua, **wide);
   else
     lua_pushboolean(lua, *std::get<bool*>(entry.value) ? 1 : 0);
 }

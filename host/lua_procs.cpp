@@ -31,6 +31,8 @@
 #include "panels/weapons.h"
 #include "panels/sound_tools.h"
 #include "panels/sounds.h"
+#include "script/colouring.h"
+#include "script/editor.h"
 #include "script/word_search.h"
 #include "tools/mission_readme.h"
 #include "tools/tips.h"
@@ -88,6 +90,7 @@ constexpr luaL_Reg procedures[] = {
     entry<NactiOstrovy>("NactiOstrovy"),
     entry<NactiOverview>("NactiOverview"),
     entry<NactiReadme>("NactiReadme"),
+    entry<NactiSkript>("NactiSkript"),
     entry<NactiSoubory>("NactiSoubory"),
     entry<NactiSqm>("NactiSqm"),
     entry<NactiStranky>("NactiStranky"),
@@ -95,6 +98,7 @@ constexpr luaL_Reg procedures[] = {
     entry<PrecislujKapitoly>("PrecislujKapitoly"),
     entry<PrecislujMise>("PrecislujMise"),
     entry<ResetKampan>("ResetKampan"),
+    entry<ObarviSkript>("ObarviSkript"),
     entry<SlozkaSouboru>("SlozkaSouboru"),
     entry<SpocitejMise>("SpocitejMise"),
     entry<SpocitejSoubory>("SpocitejSoubory"),
@@ -108,6 +112,7 @@ constexpr luaL_Reg procedures[] = {
     entry<UlozOverview>("UlozOverview"),
     entry<UlozSqm>("UlozSqm"),
     entry<UlozStringtable>("UlozStringtable"),
+    entry<UlozText>("UlozText"),
     entry<ZapisLog>("ZapisLog"),
     entry<ZkontrolujPrikazovyRadek>("ZkontrolujPrikazovyRadek"),
     entry<createBriefing>("createBriefing"),

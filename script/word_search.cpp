@@ -5,6 +5,8 @@
 #include "core/run_log.h"
 #include "core/strings.h"
 
+#include <cstdint>
+
 namespace tarvelin
 {
 
@@ -12,12 +14,11 @@ namespace
 {
 
 /// Half of a sum, a half rounded to the even number.
-int halved(int sum)
+int halved(std::int64_t sum)
 {
-  const int down = sum >= 0 ? sum / 2 : (sum - 1) / 2;
-  if (sum % 2 == 0)
-    return down;
-  return down % 2 == 0 ? down : down + 1;
+  const std::int64_t down = sum >= 0 ? sum / 2 : (sum - 1) / 2;
+  const bool up = sum % 2 != 0 && down % 2 != 0;
+  return static_cast<int>(down + (up ? 1 : 0));
 }
 
 /// `compared(row)` gives the part of a row's text that is compared.
@@ -25,10 +26,10 @@ template <class Compared> int search(int first, int last, const std::string& nee
 {
   for (;;)
   {
-    const int middle = halved(first + last);
+    const int middle = halved(std::int64_t{first} + last);
     if (list.count() == 0)
       return -1;
-    const std::string item = compared(upper(list.text(middle)));
+    const std::string item = compared(list.upperText(middle));
     if (item == needle)
       return middle;
     if (first >= last)

@@ -24,7 +24,7 @@ public:
 struct FormValueEntry
 {
   std::string_view name;
-  std::variant<std::string*, std::int16_t*, bool*> value;
+  std::variant<std::string*, std::int16_t*, std::int32_t*, bool*> value;
 };
 
 /// A record of named fields with handlers. One instance of each lives from start to end, shown or not.

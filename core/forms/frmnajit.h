@@ -10,7 +10,7 @@ struct FindForm : Form
 {
   FindForm() : Form("frmnajit", "Najít či nahradit") { cmdnahradit.enable(false); }
 
-  FormValue<std::int16_t> pozice{this, "pozice", -1}; // the last hit; a search begins one behind it
+  FormValue<std::int32_t> pozice{this, "pozice", -1}; // the last hit; a search begins one behind it
   Label Label1{this, "Label1", "Hledané slovo:"};
   Text txthledane{this, "txthledane"};
   Label Label2{this, "Label2", "Nahradit:"};

@@ -17,6 +17,12 @@ const Row& Rows::row(int index) const
   return m_rows[static_cast<std::size_t>(index)];
 }
 
+std::string Rows::upperText(int index) const
+{
+  const std::string& text = row(index).text;
+  return m_sorted ? m_keys[static_cast<std::size_t>(index)] : upper(text);
+}
+
 Row& Rows::rowAt(int index)
 {
   return const_cast<Row&>(row(index));

@@ -40,6 +40,9 @@ public:
   int tag(int index) const { return row(index).tag; }
   bool marked(int index) const { return row(index).marked; }
 
+  /// The text in upper case, by which a sorted list is ordered. Throws 5 out of bounds.
+  std::string upperText(int index) const;
+
   /// Adds a row at the end, in a sorted list at its place by upper-case text. Gives its index.
   int add(std::string_view text, int tag = 0);
 

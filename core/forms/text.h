@@ -46,6 +46,9 @@ public:
   /// Puts `text` in place of the selection, the caret behind it; the change handler runs.
   void replaceSelection(std::string_view text);
 
+  /// Byte offset of character `position` in the text, the text's size behind the end.
+  std::size_t offsetOf(std::size_t position) const { return m_index.offset(m_text, position); }
+
   /// `count` characters from `start`, cut to the text.
   std::string part(std::size_t start, std::size_t count) const;
 

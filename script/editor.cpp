@@ -1,0 +1,105 @@
+#include "script/editor.h"
+
+#include "core/attempt.h"
+#include "core/desk.h"
+#include "core/forms/frmeditsetup.h"
+#include "core/forms/frmmain.h"
+#include "core/forms/frmnajit.h"
+#include "core/forms/frmrejstrik.h"
+#include "core/shared.h"
+#include "core/strings.h"
+#include "core/text_file.h"
+#include "script/colouring.h"
+
+namespace tarvelin
+{
+
+namespace
+{
+
+void skript_Change()
+{
+  if (shared.PovolBarvy != 0 && shared.Nastaveni.UkazovatBarvy != 0)
+    colourTyped(frmmain.skript);
+}
+
+void otevreneskripty_Click()
+{
+  const FileList& files = frmmain.otevreneskripty;
+  const std::string path = files.path() + "/" + files.selected();
+  shared.PovolBarvy = 0;
+  frmmain.skript.set("");
+  attempt([&] { NactiSkript(path, frmmain.skript); });
+  if (shared.Nastaveni.UkazovatBarvy != 0)
+    ObarviSkript(frmmain.skript);
+  shared.CestaSkriptu = path;
+  shared.PovolBarvy = -1;
+}
+
+void cmdnew_Click()
+{
+  shared.CestaSkriptu.clear();
+  frmmain.skript.set("");
+}
+
+void cmdsave_Click()
+{
+  if (shared.CestaSkriptu.empty())
+  {
+    const auto name = desk().prompt(Texty(90), Texty(89), "");
+    if (!name)
+      return;
+    shared.CestaSkriptu = shared.CestaMise + "/" + *name + ".sqs";
+  }
+  attempt([] { UlozText(shared.CestaSkriptu, frmmain.skript.text()); });
+  frmmain.otevreneskripty.refresh();
+}
+
+void cmdrefresh_Click()
+{
+  if (shared.Nastaveni.UkazovatBarvy == 0)
+    return;
+  ObarviSkript(frmmain.skript);
+  shared.PovolBarvy = -1;
+}
+
+void prikazy_Click()
+{
+  const Tree::Node* const node = frmmain.prikazy.selected();
+  const bool command = node && node->parent && node->parent->parent; // headings and sub-headings are none
+  if (!command || !node->children.empty())
+    return;
+  shared.PovolBarvy = -1;
+  frmmain.skript.replaceSelection(trim(node->text) + " ");
+}
+
+} // namespace
+
+void NactiSkript(const std::string& path, RichText& box)
+{
+  std::string lines;
+  for (LineReader file(path); !file.atEnd();)
+    lines.append(file.next()).append(crlf);
+  box.append(lines);
+}
+
+void UlozText(const std::string& path, const std::string& text)
+{
+  writeText(path, text);
+}
+
+void attachEditor()
+{
+  frmmain.skript.onChange = skript_Change;
+  frmmain.otevreneskripty.onClick = otevreneskripty_Click;
+  frmmain.cmdnew.onClick = cmdnew_Click;
+  frmmain.cmdsave.onClick = cmdsave_Click;
+  frmmain.cmdrefresh.onClick = cmdrefresh_Click;
+  frmmain.prikazy.onClick = prikazy_Click;
+  frmmain.cmdsearch.onClick = [] { frmrejstrik.show(); };
+  frmmain.cmdsearch2.onClick = [] { frmnajit.show(); };
+  frmmain.cmdsetup.onClick = [] { frmeditsetup.show(); };
+  frmmain.mnueditskript.onClick = [] { frmeditsetup.show(); };
+}
+
+} // namespace tarvelin

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace tarvelin
+{
+
+/// Puts the handlers of the command index on its fields.
+void attachIndex();
+
+} // namespace tarvelin
