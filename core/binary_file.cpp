@@ -48,6 +48,7 @@ bool BinaryReader::take(std::size_t count, std::size_t& from)
   if (m_bytes.size() - m_at < count)
   {
     m_at = m_bytes.size();
+    m_cut = true;
     return false;
   }
   from = m_at;

@@ -37,6 +37,9 @@ public:
 
   bool atEnd() const { return m_at >= m_bytes.size(); }
 
+  /// True when something was asked for that is not all there.
+  bool cut() const { return m_cut; }
+
   void get(std::int16_t& number);
   void get(Colour& colour);
   void get(std::string& text);
@@ -47,6 +50,7 @@ private:
 
   std::string m_bytes;
   std::size_t m_at = 0;
+  bool m_cut = false;
 };
 
 } // namespace tarvelin

@@ -17,6 +17,13 @@ inline constexpr int deleteChapter = 12;    ///< question before a chapter is de
 inline constexpr int noPboUtility = 13;     ///< the settings have no PBO utility
 inline constexpr int noMissionOpen = 14;    ///< a command that needs an open mission
 inline constexpr int copySlowEnd = 15;      ///< behind the name of the tools' folder
+inline constexpr int associated = 16;       ///< the association was made, before its keys
+inline constexpr int foreignAssociation = 17; ///< question: remove the association of another program?
+inline constexpr int keyNotWritten = 18;    ///< before the key
+inline constexpr int keyNotDeleted = 19;    ///< before the key
+inline constexpr int keyUnreadable = 20;    ///< before a key that cannot be opened; question when it exists already
+inline constexpr int valueUnreadable = 21;  ///< before the key
 inline constexpr int previewLeft = 22;      ///< the preview left a file that is being replaced
+inline constexpr int editorMissing = 23;    ///< behind the path of the sibling editor
 
 } // namespace tarvelin::message

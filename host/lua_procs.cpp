@@ -34,8 +34,10 @@
 #include "script/colouring.h"
 #include "script/editor.h"
 #include "script/word_search.h"
+#include "tools/association.h"
 #include "tools/mission_readme.h"
 #include "tools/tips.h"
+#include "tools/programs_bar.h"
 
 namespace tarvelin::host
 {
@@ -67,10 +69,12 @@ template <auto procedure> constexpr luaL_Reg entry(const char* name)
 constexpr luaL_Reg procedures[] = {
     entry<AddonyDoTextu>("AddonyDoTextu"),
     entry<Akce>("Akce"),
+    entry<Asociuj>("Asociuj"),
     entry<BNajdi>("BNajdi"),
     entry<BNajdi2>("BNajdi2"),
     entry<BezUvozovek>("BezUvozovek"),
     entry<CisloZKlice>("CisloZKlice"),
+    entry<CtiKlic>("CtiKlic"),
     entry<DejJmenoSouboru>("DejJmenoSouboru"),
     entry<FiltrujCislo>("FiltrujCislo"),
     entry<HodnotaRadku>("HodnotaRadku"),
@@ -81,6 +85,9 @@ constexpr luaL_Reg procedures[] = {
     entry<KopirujSlozku>("KopirujSlozku"),
     entry<KopirujZvuky>("KopirujZvuky"),
     entry<NactiAddony>("NactiAddony"),
+    entry<LoadAndSaveIcons>("LoadAndSaveIcons"),
+    entry<LoadPrograms>("LoadPrograms"),
+    entry<MakeProgramBar>("MakeProgramBar"),
     entry<NactiBriefing>("NactiBriefing"),
     entry<NactiDescription>("NactiDescription"),
     entry<NactiJazyk>("NactiJazyk"),
@@ -95,10 +102,10 @@ constexpr luaL_Reg procedures[] = {
     entry<NactiSqm>("NactiSqm"),
     entry<NactiStranky>("NactiStranky"),
     entry<NactiTip>("NactiTip"),
+    entry<ObarviSkript>("ObarviSkript"),
     entry<PrecislujKapitoly>("PrecislujKapitoly"),
     entry<PrecislujMise>("PrecislujMise"),
     entry<ResetKampan>("ResetKampan"),
-    entry<ObarviSkript>("ObarviSkript"),
     entry<SlozkaSouboru>("SlozkaSouboru"),
     entry<SpocitejMise>("SpocitejMise"),
     entry<SpocitejSoubory>("SpocitejSoubory"),
@@ -113,12 +120,14 @@ constexpr luaL_Reg procedures[] = {
     entry<UlozSqm>("UlozSqm"),
     entry<UlozStringtable>("UlozStringtable"),
     entry<UlozText>("UlozText"),
+    entry<UlozitConfig>("UlozitConfig"),
     entry<ZapisLog>("ZapisLog"),
     entry<ZkontrolujPrikazovyRadek>("ZkontrolujPrikazovyRadek"),
     entry<createBriefing>("createBriefing"),
     entry<createDescription>("createDescription"),
     entry<createOverview>("createOverview"),
     entry<brejle>("brejle"),
+    entry<ZrusAsociaci>("ZrusAsociaci"),
     {nullptr, nullptr},
 };
 

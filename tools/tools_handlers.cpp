@@ -5,6 +5,10 @@
 #include "tools/game_information.h"
 #include "tools/links.h"
 #include "tools/tips.h"
+#include "tools/association.h"
+#include "tools/game_information.h"
+#include "tools/programs_bar.h"
+#include "tools/settings_form.h"
 
 namespace tarvelin
 {
@@ -15,6 +19,9 @@ void attachTools()
   attachTips();
   attachLinks();
   attachAbout();
+  attachAssociation();
+  attachProgramsBar();
+  attachSettingsForm();
 }
 
 } // namespace tarvelin

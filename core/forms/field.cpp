@@ -20,6 +20,12 @@ Field::Field(Form* form, std::string_view name, int index) : m_form(form), m_nam
   form->addField(this);
 }
 
+void Field::tellGone()
+{
+  for (FieldObserver* const observer : std::vector(m_observers))
+    observer->fieldGone(*this);
+}
+
 std::string Field::fullName() const
 {
   return m_index == noIndex ? m_name : m_name + "(" + std::to_string(m_index) + ")";

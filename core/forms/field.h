@@ -55,7 +55,7 @@ enum class Change
   rowAdded,  ///< a row came in at `first`
   rowRemoved,
   value,     ///< check, option, slider, progress, tab strip, drive
-  range,     ///< limits of a slider or a progress
+  range,     ///< limits of a slider or a progress; place of a picture
   path,      ///< folder, pattern, picture or address
   colour,
   everything, ///< a bulk change: read the field anew
@@ -75,6 +75,9 @@ class FieldObserver
 public:
   virtual ~FieldObserver() = default;
   virtual void fieldChanged(Field& field, const FieldChange& change) = 0;
+
+  /// The field is being taken away, as an element of a field array may be: it must not be touched any more.
+  virtual void fieldGone(const Field& /*field*/) {}
 };
 
 using Handler = std::function<void()>;
@@ -134,6 +137,9 @@ public:
 
   void observe(FieldObserver& observer);
   void stopObserving(FieldObserver& observer);
+
+  /// Tells the views that the field is about to be taken away.
+  void tellGone();
 
 protected:
   void notify(const FieldChange& change);

@@ -61,6 +61,7 @@ public:
         element = std::make_unique<T>(m_form, m_name, index);
       else
         element = std::make_unique<T>(m_form, m_name, std::string_view{}, index);
+      m_form->fieldsChanged();
     }
     return *element;
   }
@@ -71,8 +72,10 @@ public:
     const auto found = m_elements.find(index);
     if (found == m_elements.end())
       return;
+    found->second->tellGone();
     m_form->removeField(found->second.get());
     m_elements.erase(found);
+    m_form->fieldsChanged();
   }
 
   /// Calls `action(field, index)` for each element, by rising index.

@@ -85,6 +85,7 @@ struct Form
   // Used by the fields and values of the form.
   void addField(Field* field) { m_fields.push_back(field); }
   void removeField(const Field* field);
+  void fieldsChanged() { tellView(); } ///< a field array got another element or lost one
   void addArray(std::string_view name) { m_arrays.emplace_back(name); }
   void addValue(const FormValueEntry& value) { m_values.push_back(value); }
 

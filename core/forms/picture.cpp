@@ -113,6 +113,15 @@ void Picture::setSunken(bool on)
   notify({Change::style});
 }
 
+void Picture::place(int left, int extent)
+{
+  if (m_left == left && m_extent == extent)
+    return;
+  m_left = left;
+  m_extent = extent;
+  notify({Change::range});
+}
+
 void Picture::click()
 {
   if (onClick)

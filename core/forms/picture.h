@@ -46,11 +46,19 @@ public:
 
   void click();
 
+  /// Where it stands on the field that holds it, and how wide it is, in pixels; of the pictures that the program itself
+  /// lays out.
+  int left() const { return m_left; }
+  int extent() const { return m_extent; }
+  void place(int left, int extent);
+
 private:
   std::string m_path;
   PictureSize m_size;
   Colour m_color = 0xFFFFFF;
   bool m_sunken = false;
+  int m_left = 0;
+  int m_extent = 0;
 };
 
 /// Size of a JPEG or a Windows bitmap, read from its head. Throws 53, 481.
