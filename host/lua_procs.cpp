@@ -36,8 +36,8 @@
 #include "script/word_search.h"
 #include "tools/association.h"
 #include "tools/mission_readme.h"
-#include "tools/tips.h"
 #include "tools/programs_bar.h"
+#include "tools/tips.h"
 
 namespace tarvelin::host
 {

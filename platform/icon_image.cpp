@@ -122,7 +122,8 @@ std::vector<Candidate> candidatesOf(const Bytes& group, std::size_t entrySize)
     all.push_back({side, group.word(at + 6), entrySize == 16 ? group.number(at + 12) : group.word(at + 12),
                    group.number(at + 8)});
   }
-  const auto distance = [](const Candidate& c) { return std::abs(static_cast<int>(c.side) - static_cast<int>(wantedSide)); };
+  const auto distance = [](const Candidate& c)
+  { return std::abs(static_cast<int>(c.side) - static_cast<int>(wantedSide)); };
   std::ranges::stable_sort(all,
                            [&](const Candidate& a, const Candidate& b)
                            {

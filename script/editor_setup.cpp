@@ -23,9 +23,9 @@ struct GroupRow
 using F = EditorSetupForm;
 
 constexpr GroupRow groupRows[] = {
-    {functionStyle, &F::BFunkce, &F::BFT, &F::BFK},     {equipmentStyle, &F::BVyb, &F::BVT, &F::BVK},
-    {actionStyle, &F::BKon1, &F::BK1T, &F::BK1K},       {animationStyle, &F::BKon2, &F::BK2T, &F::BK2K},
-    {operatorStyle, &F::BOp, &F::BOT, &F::BOK},         {commentStyle, &F::BKom, &F::BKT, &F::BKK},
+    {functionStyle, &F::BFunkce, &F::BFT, &F::BFK}, {equipmentStyle, &F::BVyb, &F::BVT, &F::BVK},
+    {actionStyle, &F::BKon1, &F::BK1T, &F::BK1K},   {animationStyle, &F::BKon2, &F::BK2T, &F::BK2K},
+    {operatorStyle, &F::BOp, &F::BOT, &F::BOK},     {commentStyle, &F::BKom, &F::BKT, &F::BKK},
 };
 
 void frmeditsetup_Load()

@@ -149,7 +149,7 @@ Outcome runProgram(const std::string& command, const fs::path& folder, const fs:
   const Scratch outputs;
   fs::create_directories(user);
   const std::string line = "cd " + quoted(folder.string()) + " && HOME=" + quoted(user.string()) +
-                           " XDG_DATA_HOME= LC_ALL=C.UTF-8 timeout 120 " + command + " >" +
+                           " XDG_DATA_HOME= XDG_CONFIG_HOME= LC_ALL=C.UTF-8 timeout 120 " + command + " >" +
                            quoted((outputs / "out").string()) + " 2>" + quoted((outputs / "err").string()) +
                            " </dev/null";
   const int status = std::system(line.c_str());

@@ -137,6 +137,12 @@ void seznamprogramu_Click()
     attempt([&] { (frmsettings.*row.field).set(shared.Programy.at(index).*row.member); });
 }
 
+/// Writes a field to the highlighted program. Throws 9 when none is.
+void keepInRecord(const ProgramRow& row)
+{
+  shared.Programy.at(frmsettings.seznamprogramu.index()).*row.member = (frmsettings.*row.field).text();
+}
+
 void cmdsave_Click()
 {
   const std::string path = programFile(programsFile);
@@ -173,10 +179,7 @@ void attachSettingsForm()
       frmsettings.txtpbopath.set(*path);
   };
   for (const ProgramRow& row : programRows)
-    (frmsettings.*row.field).onChange = [row]
-    {
-      attempt([&] { shared.Programy.at(frmsettings.seznamprogramu.index()).*row.member = (frmsettings.*row.field).text(); });
-    };
+    (frmsettings.*row.field).onChange = [row] { attempt([row] { keepInRecord(row); }); };
   frmsettings.seznamprogramu.onClick = seznamprogramu_Click;
   frmsettings.Command3.onClick = []
   {

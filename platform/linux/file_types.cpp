@@ -18,8 +18,8 @@
 #include <vector>
 
 // The user's own part of the desktop's data base of file types: a MIME package that gives the extension a type, a
-// desktop entry for the handler, pictures in the icon theme that all themes fall back to, and the user's list of default
-// programs.
+// desktop entry for the handler, pictures in the icon theme that all themes fall back to, and the user's list of
+// default programs.
 namespace tarvelin::platform
 {
 
@@ -238,6 +238,31 @@ std::string nativeProgram(std::string_view program)
   return fileExists(program) ? toNative(program) : toNative(withoutExe(program));
 }
 
+std::string packageText(std::string_view extension)
+{
+  std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+  text += "<mime-info xmlns=\"http://www.freedesktop.org/standards/shared-mime-info\">\n";
+  text += "  <mime-type type=\"" + typeOf(extension) + "\">\n";
+  text += "    <comment>Mission</comment>\n";
+  text += "    <glob pattern=\"*." + withoutDot(extension) + "\" weight=\"80\"/>\n";
+  text += "  </mime-type>\n</mime-info>\n";
+  return text;
+}
+
+std::string entryText(std::string_view handler, std::string_view extension, std::string_view verb,
+                      std::string_view program)
+{
+  std::string text = "[Desktop Entry]\nType=Application\n";
+  text += "Name=" + std::string(handler.substr(0, handler.rfind('.'))) + "\n";
+  text += "Comment=" + std::string(verb) + "\n";
+  text += "Exec=" + execWord(nativeProgram(program)) + " %f\n";
+  text += "Icon=" + stemOf(handler) + "\n";
+  text += "Terminal=false\nCategories=Development;\n";
+  text += "MimeType=" + typeOf(extension) + ";\n";
+  text += std::string(handlerLine) + std::string(handler) + "\n";
+  return text;
+}
+
 std::optional<IconImage> imageOf(std::string_view icon)
 {
   if (!fileExists(icon))
@@ -273,22 +298,15 @@ bool setFileTypeHandler(std::string_view extension, std::string_view handler)
       [&]
       {
         const std::string type = typeOf(extension);
-        write(packageFile(extension),
-              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-              "<mime-info xmlns=\"http://www.freedesktop.org/standards/shared-mime-info\">\n"
-              "  <mime-type type=\"" + type + "\">\n"
-              "    <comment>Mission</comment>\n"
-              "    <glob pattern=\"*." + withoutDot(extension) + "\" weight=\"80\"/>\n"
-              "  </mime-type>\n"
-              "</mime-info>\n");
+        write(packageFile(extension), packageText(extension));
         std::vector<std::string> lines = linesOf(read(defaultsFile()));
         const std::string line = type + "=" + stemOf(handler) + ".desktop";
         if (const auto found = defaultLine(lines, type); found != lines.end())
           *found = line;
         else
         {
-          auto section = std::ranges::find_if(lines, [](const std::string& text)
-                                              { return text.starts_with(defaultsSection); });
+          auto section =
+              std::ranges::find_if(lines, [](const std::string& text) { return text.starts_with(defaultsSection); });
           if (section == lines.end())
             section = lines.insert(lines.end(), std::string(defaultsSection));
           lines.insert(section + 1, line);
@@ -333,16 +351,7 @@ bool setFileHandlerCommand(std::string_view handler, std::string_view extension,
   return done(
       [&]
       {
-        write(entryFile(handler), "[Desktop Entry]\n"
-                                  "Type=Application\n"
-                                  "Name=" + std::string(handler.substr(0, handler.rfind('.'))) + "\n"
-                                  "Comment=" + std::string(verb) + "\n"
-                                  "Exec=" + execWord(nativeProgram(program)) + " %f\n"
-                                  "Icon=" + stemOf(handler) + "\n"
-                                  "Terminal=false\n"
-                                  "MimeType=" + typeOf(extension) + ";\n"
-                                  "Categories=Development;\n" +
-                                  std::string(handlerLine) + std::string(handler) + "\n");
+        write(entryFile(handler), entryText(handler, extension, verb, program));
         runTool("update-desktop-database", dataFolder() / "applications");
         return true;
       });
@@ -359,8 +368,8 @@ bool setFileHandlerIcon(std::string_view handler, std::string_view extension, st
         for (const fs::path& file : iconFiles(handler, extension))
           fs::remove(file);
         const std::string png = pngBytes(*image);
-        const fs::path size = dataFolder() / "icons/hicolor" /
-                              (std::to_string(image->width) + "x" + std::to_string(image->height));
+        const fs::path size =
+            dataFolder() / "icons/hicolor" / (std::to_string(image->width) + "x" + std::to_string(image->height));
         write(size / "apps" / (stemOf(handler) + ".png"), png);
         write(size / "mimetypes" / ("application-x-" + withoutDot(extension) + ".png"), png);
         return true;
