@@ -23,7 +23,7 @@ bool ended = false;
 
 void exitProgram()
 {
-  if (ended)
+  if (ended || !frmmain.loaded()) // never started: nothing to save over the user's settings
     return;
   frmmain.hide();
   Form3.setCaption(Texty(51));

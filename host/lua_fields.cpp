@@ -443,9 +443,9 @@ const Member* findMember(const Field& field, std::string_view name)
 
 int getMember(lua_State* lua, Field& field)
 {
-  if (lua_isinteger(lua, 2))
+  if (lua_type(lua, 2) == LUA_TNUMBER)
   {
-    pushRow(lua, as<Rows>(field), lua_tointeger(lua, 2));
+    pushRow(lua, as<Rows>(field), toWhole(lua, 2));
     return 1;
   }
   const std::string name = toText(lua, 2);

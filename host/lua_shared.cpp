@@ -125,8 +125,8 @@ template <class T, class Reach> void walk(T& value, const Path& path, std::size_
 Path extended(lua_State* lua)
 {
   Path path = referenceAt(lua, 1);
-  if (lua_isinteger(lua, 2))
-    path.emplace_back(lua_tointeger(lua, 2));
+  if (lua_type(lua, 2) == LUA_TNUMBER)
+    path.emplace_back(toWhole(lua, 2));
   else
     path.emplace_back(toText(lua, 2));
   return path;

@@ -64,7 +64,7 @@ void copyPicture(const std::string& from, const std::string& to)
     return;
   if (platform::copyFile(from, to, true))
     return;
-  attempt([&] { platform::clearAttributes(to); });
+  platform::clearAttributes(to);
   attempt([&] { platform::deleteFile(to); });
   platform::copyFile(from, to, true);
 }

@@ -34,7 +34,6 @@
 #include "core/forms/tmpfrm.h"
 #include "core/strings.h"
 
-#include <memory>
 #include <tuple>
 
 namespace tarvelin

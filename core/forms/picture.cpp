@@ -3,7 +3,6 @@
 #include "platform/failure.h"
 #include "platform/files.h"
 
-#include <cstdint>
 #include <string_view>
 
 namespace tarvelin

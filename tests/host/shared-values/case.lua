@@ -16,6 +16,8 @@ equal(shared.Nastaveni.UzivatelJmeno, "Eva", "written")
 equal(shared.Texty[33], "T33", "an element")
 equal(shared.Texty.bound, 121, "an upper bound")
 equal(shared.Zvuky.bound, -1, "never dimensioned")
+equal(shared.Texty[66 / 2], "T33", "an index that was computed") -- 33.0, which is the same key in a table of Lua
+fails(function() return shared.Texty[0.5] end, "whole number expected", "half an index")
 fails(function() return shared.Texty[122] end, "run-time error 9: Subscript out of range", "out of bounds")
 fails(function() return shared.Texty[-1] end, "run-time error 9: Subscript out of range", "below 0")
 fails(function() return shared.Zvuky[0].Titulky end, "run-time error 9: Subscript out of range", "in an empty array")

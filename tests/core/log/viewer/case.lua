@@ -1,0 +1,15 @@
+-- The viewer shows the log as it grows, can be put away, and this run's file does not exist before the end.
+start()
+frmmain.mnuukazlog:click()
+equal(frmload.visible, true, "the viewer is shown") equal(frmload.modal, false, "without waiting")
+equal(#events, 0, "nobody is asked")
+local before = frmload.log.text
+equal(before, log(), "it holds the log")
+proc.ZapisLog("Žádný řádek\r\n")
+proc.ZapisLog("bez konce")
+equal(frmload.log.text, before .. "Žádný řádek\r\nbez konce", "lines that come while it is open, as they are given")
+equal(exists(home .. "/Bfdata/LogFiles"), false, "nothing is saved before the end")
+frmload.Command1:click()
+equal(frmload.visible, false, "Ok hides it")
+quit()
+check(read_file(home .. "/Bfdata/LogFiles/" .. listing(home .. "/Bfdata/LogFiles")):find("\r\nbez konceKonec programu: ", 1, true), "the whole text is saved")
