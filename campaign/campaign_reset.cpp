@@ -1,12 +1,12 @@
 #include "campaign/campaign_reset.h"
 
 #include "core/attempt.h"
-#include "core/forms/form2.h"
 #include "core/forms/frmcamp3.h"
 #include "core/forms/frmcamp4.h"
 #include "core/forms/frmcamp5.h"
 #include "core/forms/frmcampobr.h"
 #include "core/forms/frmopen.h"
+#include "core/identity_rows.h"
 #include "core/shared.h"
 
 namespace tarvelin
@@ -39,7 +39,9 @@ void resetStores()
 
 void resetLists()
 {
-  for (List* const list : {&Form2.seznamidentit, &frmcamp3.awardlist, &frmcamp3.penaltylist})
+  clearIdentityRows(IdentitySide::campaign);
+  showIdentityRows(); // the mission's come back
+  for (List* const list : {&frmcamp3.awardlist, &frmcamp3.penaltylist})
     list->clear();
   frmcamp3.awardlimit.set("10");
   frmcamp3.penaltylimit.set("-10");

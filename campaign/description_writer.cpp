@@ -4,10 +4,10 @@
 #include "campaign/links.h"
 #include "campaign/path_names.h"
 #include "campaign/tree.h"
-#include "core/forms/form2.h"
 #include "core/forms/frmcamp3.h"
 #include "core/forms/frmcamp5.h"
 #include "core/forms/tmpfrm.h"
+#include "core/identity_rows.h"
 #include "core/logged_steps.h"
 #include "core/run_log.h"
 #include "core/shared.h"
@@ -17,6 +17,7 @@
 #include "platform/clock.h"
 
 #include <functional>
+#include <vector>
 
 namespace tarvelin
 {
@@ -49,11 +50,13 @@ void addIdentities(Output& out)
   const auto record = [](int row) -> const ZaznamIdentity& { return shared.IdentityKampane.at(row); };
   out.line("class CfgIdentities");
   out.line("{");
-  for (int row = 0; row < Form2.seznamidentit.count(); ++row)
+  const std::vector<Row> rows = identityRows(IdentitySide::campaign);
+  for (int row = 0; row < static_cast<int>(rows.size()); ++row)
   {
-    if (!Form2.seznamidentit.marked(row))
+    const Row& shown = rows[static_cast<std::size_t>(row)];
+    if (!shown.marked)
       continue;
-    out.line("    class " + Form2.seznamidentit.text(row));
+    out.line("    class " + shown.text);
     out.line("    {");
     out.attemptLine([&] { return "        name = " + quoted(record(row).Jmeno) + ";"; });
     out.attemptLine([&] { return "        face = " + quoted(record(row).Oblicej) + ";"; });

@@ -3,6 +3,7 @@
 #include "core/forms/form2.h"
 #include "core/forms/frmdalsinast.h"
 #include "core/forms/frmmain.h"
+#include "core/identity_rows.h"
 #include "core/logged_steps.h"
 #include "core/program.h"
 #include "core/shared.h"
@@ -169,24 +170,30 @@ void addSounds(std::string& text, const LoggedSteps& steps)
   addLine(text, {});
 }
 
+void addIdentity(std::string& text, const std::string& name, const ZaznamIdentity& identity)
+{
+  addLine(text, "    class " + name);
+  addLine(text, "    {");
+  addLine(text, "        name=" + quoted(identity.Jmeno) + ";");
+  addLine(text, "        face=" + quoted(identity.Oblicej) + ";");
+  addLine(text, "        glasses=" + quoted(identity.Bryle) + ";");
+  addLine(text, "        speaker=" + quoted(identity.Hlas) + ";");
+  addLine(text, "        pitch=" + identity.VyskaHlasu + ";");
+  addLine(text, "    };");
+}
+
 void addIdentities(std::string& text, const LoggedSteps& steps)
 {
   if (Form2.chkpouzithrace.checked())
   {
     openClass(text, "CfgIdentities");
-    eachMarked(Form2.seznamidentit, steps,
-               [&](int i)
-               {
-                 const ZaznamIdentity& identity = shared.Identity.at(i);
-                 addLine(text, "    class " + Form2.seznamidentit.text(i));
-                 addLine(text, "    {");
-                 addLine(text, "        name=" + quoted(identity.Jmeno) + ";");
-                 addLine(text, "        face=" + quoted(identity.Oblicej) + ";");
-                 addLine(text, "        glasses=" + quoted(identity.Bryle) + ";");
-                 addLine(text, "        speaker=" + quoted(identity.Hlas) + ";");
-                 addLine(text, "        pitch=" + identity.VyskaHlasu + ";");
-                 addLine(text, "    };");
-               });
+    int i = 0;
+    for (const Row& row : identityRows(IdentitySide::mission))
+    {
+      if (row.marked)
+        steps([&] { addIdentity(text, row.text, shared.Identity.at(i)); });
+      ++i;
+    }
   }
   addLine(text, "};"); // also when it closes nothing
 }

@@ -1,8 +1,8 @@
 #include "mission/create_mission.h"
 
 #include "core/attempt.h"
-#include "core/forms/form2.h"
 #include "core/forms/frmmain.h"
+#include "core/identity_rows.h"
 #include "core/shared.h"
 #include "mission/briefing_writer.h"
 #include "mission/description_writer.h"
@@ -75,7 +75,8 @@ void copyPictures()
 {
   if (!shared.CestaObrazku.empty() && !shared.CilObrazku.empty())
     copyPicture(shared.CestaObrazku, shared.CilObrazku);
-  for (int i = 0; i < Form2.seznamidentit.count(); ++i)
+  const auto faces = static_cast<int>(identityRows(IdentitySide::mission).size());
+  for (int i = 0; i < faces; ++i)
     attempt(
         [&]
         {

@@ -2,9 +2,9 @@
 
 #include "core/attempt.h"
 #include "core/default_texts.h"
-#include "core/forms/form2.h"
 #include "core/forms/frmdebrief.h"
 #include "core/forms/frmmain.h"
+#include "core/identity_rows.h"
 #include "core/shared.h"
 
 namespace tarvelin
@@ -49,11 +49,7 @@ void resetTexts()
 
 void resetOtherForms()
 {
-  Form2.seznamidentit.clear();
-  for (Field* const field :
-       std::initializer_list<Field*>{&Form2.Text1, &Form2.Text2, &Form2.hlasy, &Form2.ksichty, &Form2.bryle,
-                                     &Form2.List1})
-    field->enable(false);
+  clearIdentityRows(IdentitySide::mission);
   frmdebrief.txtjmeno.set("");
   frmdebrief.txtdebrief.set("");
   frmdebrief.List1.clear();

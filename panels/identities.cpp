@@ -8,6 +8,7 @@
 #include "core/forms/frmmain.h"
 #include "core/forms/frmopen.h"
 #include "core/forms/tmpfrm.h"
+#include "core/identity_rows.h"
 #include "core/messages.h"
 #include "core/numbers.h"
 #include "core/procedures.h"
@@ -70,14 +71,6 @@ ZaznamIdentity& current()
   return store().records.at(store().current);
 }
 
-/// What can be edited only while there is an identity.
-void enableFields(bool on)
-{
-  for (Field* const field : std::initializer_list<Field*>{&Form2.Text1, &Form2.Text2, &Form2.hlasy, &Form2.ksichty,
-                                                          &Form2.bryle, &Form2.List1})
-    field->enable(on);
-}
-
 void readCatalogue(std::string_view file, Combo& combo, bool storeCodes)
 {
   const std::string path = programFile(file);
@@ -112,11 +105,13 @@ void Form2_Load()
   attempt([] { store().records.at(0).Jmeno = Form2.Text1.text(); });
   attempt([] { store().records.at(0).VyskaHlasu = "1"; });
   readPlayers();
-  Form2.seznamidentit.clear();
+  clearIdentityRows(IdentitySide::mission);
+  clearIdentityRows(IdentitySide::campaign);
 }
 
 void Form2_Activate()
 {
+  showIdentityRows();
   Form2.cmdPrev.show(inWizard());
   Form2.setCaption(Texty(inWizard() ? 66 : 65));
   if (Form2.seznamidentit.count() == 0)
@@ -180,6 +175,7 @@ void ksichty_Click()
 
 void cmdadd_Click()
 {
+  showIdentityRows();
   const Store identities = store();
   Form2.cmdelall.enable(true);
   attempt([&] { identities.count = counted(identities.count); });
@@ -189,17 +185,18 @@ void cmdadd_Click()
   // The new identity takes what the fields show.
   for (void (*const take)() : {Text1_Change, Text2_Change, List1_Click, hlasy_Click, bryle_Click, ksichty_Click})
     take();
-  enableFields(true);
+  enableIdentityFields(true);
   Form2.seznamidentit.mark(row, true);
 }
 
 void cmdelall_Click()
 {
+  showIdentityRows();
   const Store identities = store();
   identities.records.reset();
   identities.count = 0;
   identities.current = 0;
-  enableFields(false);
+  enableIdentityFields(false);
   Form2.seznamidentit.clear();
   Form2.cmdelall.enable(false);
 }
@@ -226,6 +223,7 @@ void showFace(const std::string& code)
 
 void seznamidentit_Click()
 {
+  showIdentityRows();
   if (Form2.seznamidentit.index() < 0)
     return;
   attempt([] { store().current = toInt16(Form2.seznamidentit.index()); });

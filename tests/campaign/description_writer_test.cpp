@@ -5,6 +5,7 @@
 #include "core/forms/frmcamp5.h"
 #include "core/forms/frmload.h"
 #include "core/forms/tmpfrm.h"
+#include "core/identity_rows.h"
 #include "core/shared.h"
 #include "core/strings.h"
 #include "platform/codepage.h"
@@ -26,12 +27,18 @@ protected:
   {
     assembleProgram();
     ResetKampan();
+    shared.KampanMod = -1;
+    showIdentityRows();
     shared.PocetOstrovu = 0;
     shared.JmenoKampane = "K";
     for (int word = 45; word <= 48; ++word)
       shared.Texty.at(word) = "T" + std::to_string(word);
   }
-  void TearDown() override { assembleProgram(); }
+  void TearDown() override
+  {
+    ResetKampan();
+    assembleProgram();
+  }
 
   static void addRow(List& list, std::string_view text, int tag, bool marked)
   {

@@ -10,12 +10,11 @@ equal(tostring(Form2.visible) .. tostring(frmcamp3.visible), "falsefalse", "OK l
 
 shared.KampanMod = -1
 equal(shared.ProfilyKampane, -1, "one flag under two names")
-Form2.seznamidentit:select(0)
-equal(shared.AktualniIdentita .. "/" .. shared.AktualniIdentitaKampane, "0/0", "currents")
 Form2.txtnazev.text = "Kampan"
 Form2.cmdadd:click()
 equal(shared.PocetIdentit .. "/" .. shared.PocetIdentitKampane .. "/" .. shared.IdentityKampane.bound, "1/1/1", "the campaign's own count")
-equal(shared.AktualniIdentitaKampane, 1, "its current is the row of the list")
+equal(rows(Form2.seznamidentit), "Kampan", "its own rows")
+equal(shared.AktualniIdentitaKampane, 0, "its current is the row of the list")
 Form2.seznamidentit:select(0)
 Form2.Text1.text = "Velitel"
 Form2.Text2.text = "0.8"
