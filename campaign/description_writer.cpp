@@ -213,8 +213,7 @@ void addLinks(Output& out, std::string_view blanks, const std::function<const Re
           const std::string line = last ? "end" + std::to_string(end) + " = " : endLine(end, record().*link, words);
           return std::string(blanks) + line + ";";
         });
-  // no semicolon here: the game takes the end of the line
-  out.attemptLine([&] { return std::string(blanks) + "lost = " + lostName(record().Lost, words, last); });
+  out.attemptLine([&] { return std::string(blanks) + "lost = " + lostName(record().Lost, words, last) + ";"; });
 }
 
 /// The class of a mission: its folder without the suffix of the island. Throws 5 for a name below five characters.

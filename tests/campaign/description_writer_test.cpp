@@ -251,9 +251,8 @@ TEST_F(CampaignDescription, ACampaignWithoutChaptersHasAnEmptyOne)
         end4 = ;
         end5 = ;
         end6 = ;
-        lost = )"
-                                                                  "\n"
-                                                                  R"(
+        lost = ;
+
      };
 };
 

@@ -53,13 +53,45 @@ function same_as_kept(folder, name)
   same(read_file(folder .. "/" .. name), assert(read_file(case_folder .. "/campaign/" .. name)), name)
 end
 
--- every path below a folder, folders with "/" behind, sorted by bytes, joined by blanks
-function everything(folder)
+-- every path below a folder, folders with "/" behind
+function paths(folder)
   local names = {}
   local command = "cd '" .. folder .. "' && find . -mindepth 1 \\( -type d -printf '%P/\\n' -o -printf '%P\\n' \\)"
   for name in io.popen(command):lines() do names[#names + 1] = name end
+  return names
+end
+
+-- the same, sorted by bytes, joined by blanks
+function everything(folder)
+  local names = paths(folder)
   table.sort(names)
   return table.concat(names, " ")
+end
+
+-- a generated campaign against the folder campaign/ beside the case: the same paths, the same bytes. Folders that are
+-- meant to be empty are named, as they cannot be kept.
+function same_campaign(made, empty_folders)
+  local kept = case_folder .. "/campaign"
+  local want = paths(kept)
+  for _, name in ipairs(want) do
+    if name:sub(-1) ~= "/" then same(read_file(made .. "/" .. name), read_file(kept .. "/" .. name), name) end
+  end
+  for _, folder in ipairs(empty_folders or {}) do want[#want + 1] = folder end
+  table.sort(want)
+  equal(everything(made), table.concat(want, " "), "the campaign's whole folder")
+end
+
+-- takes files (a native folder, names) through the intake of a command
+function take_sounds(command, folder, ...)
+  local names = {...}
+  on.modal.frmnactizvuky = function(form)
+    for i = 0, #form.seznamsouboru - 1 do form.seznamsouboru:mark(i, false) end
+    form.Dir1.path = path(folder)
+    for _, name in ipairs(names) do form.File1:select(name) form.cmdadd:click() end
+    form.cmdopen:click()
+  end
+  command:click()
+  on.modal.frmnactizvuky = nil
 end
 
 -- tree keys and node texts as they are displayed

@@ -27,12 +27,12 @@ equal(proc.SpocitejMise(1), 4, "two of its own, one of PART10, one of PART12")
 equal(shared.Kapitoly.bound, 11, "an empty record in front of the new one")
 
 name_campaign(folder, "Jedenáct")
+frmcampobr.txtkampover.text = ""
 frmcamp6.cmdnext:click()
-same_as_kept(folder .. "/Jedenáct.Eden", "Description.ext")
+same_campaign(folder .. "/Jedenáct.Eden", {"DtaExt/"})
 local _, nines = log():gsub("Description%.ext pro kampaň do složky: [^\r\n]*Description%.ext, 9, ", "")
 equal(nines, 8, "chapters without a first mission")
 local _, fives = log():gsub("Description%.ext pro kampaň do složky: [^\r\n]*Description%.ext, 5, ", "")
 equal(fives, 9, "names of missions that are not there")
-equal(listing(folder .. "/Jedenáct.Eden/Missions"), "M1.Eden M2.Eden M3.Abel", "the missions that are there are copied")
 contains(log(), "Nastala chyba při kopírování souboru:  do: " .. path(folder) .. "\\Jedenáct.Eden\\Missions\\ , 52, ",
   "the empty ones go to the log")
