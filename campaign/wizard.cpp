@@ -31,7 +31,6 @@ namespace tarvelin
 namespace
 {
 
-constexpr std::string_view folderAtFirst = "Text1"; // what the form comes with
 constexpr std::int16_t choosesFolder = 4;
 
 void takeLives()
@@ -44,11 +43,10 @@ void frmcamp1_Load()
   attempt([] { frmcamp1.txtkampJmeno.set(Texty(74)); });
 }
 
-/// A new run finds the folder of the last one in the field.
+/// A new run begins with the folder of the language pack; name and lives are those of the last one.
 void frmcamp1_Activate()
 {
-  const std::string& folder = frmcamp1.txtkampcesta.text();
-  if (shared.CestaKampane.empty() && (folder.empty() || folder == folderAtFirst))
+  if (shared.CestaKampane.empty())
     attempt([] { frmcamp1.txtkampcesta.set(Texty(75)); });
   shared.CestaKampane = frmcamp1.txtkampcesta.text();
   shared.JmenoKampane = frmcamp1.txtkampJmeno.text();

@@ -105,5 +105,5 @@ for i, form in ipairs({frmcamp1, frmcamp2, frmcamp3, frmcamp4, frmcamp5, frmcamp
   frmcamp4:close()
 end
 frmmain.mnucampaignedit:click()
-equal(frmcamp1.txtkampcesta.text .. "|" .. frmcamp1.txtkampJmeno.text, "\\vybrana|Jméno", "folder and name of the last run")
-equal(shared.CestaKampane .. "|" .. shared.JmenoKampane, "\\vybrana|Jméno", "which the new one takes")
+equal(frmcamp1.txtkampcesta.text .. "|" .. frmcamp1.txtkampJmeno.text, "T75|Jméno", "the folder of the language pack, the name of the last run")
+equal(shared.CestaKampane .. "|" .. shared.JmenoKampane, "T75|Jméno", "which the new one takes")
