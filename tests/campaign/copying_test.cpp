@@ -1,6 +1,8 @@
 #include "app/assemble.h"
 #include "campaign/campaign_reset.h"
 #include "campaign/copying.h"
+#include "campaign/description_writer.h"
+#include "campaign/overview.h"
 #include "core/desk.h"
 #include "core/forms/frmcamp1.h"
 #include "core/forms/frmcamp4.h"
@@ -10,6 +12,7 @@
 #include "core/forms/frmmain.h"
 #include "core/shared.h"
 #include "tests/platform/scratch.h"
+#include "tests/platform/small_disk.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -246,6 +249,30 @@ TEST_F(Copying, AResetMeanwhileLosesWhatIsNotCopiedYet)
   m_desk.meanwhile = [] { ResetKampan(); };
   KopirujKampan(m_scratch.path("out"));
   EXPECT_EQ(tree("out/K.Eden/Missions"), "A.Eden/ A.Eden/mission.sqm A.Eden/pod/ A.Eden/pod/b.sqs ");
+}
+
+TEST_F(Copying, AFullDiskCostsTheFilesThatDoNotFit)
+{
+  m_scratch.put("mise/A.Eden/a.sqs", "a");
+  m_scratch.put("mise/A.Eden/mission.sqm", std::string(100000, 'm'));
+  m_scratch.put("mise/A.Eden/z.sqs", "z");
+  addMission(m_scratch.path("mise/A.Eden"));
+  shared.CestaKampane = m_scratch.path("out");
+  {
+    const SmallDisk disk(64);
+    KopirujKampan(m_scratch.path("out"));
+    UlozKampanDescription(m_scratch.path("out/K.Eden") + "\\Description.ext");
+    UlozKampanOverview(m_scratch.path("out/K.Eden") + "\\Overview.html", "");
+  }
+  EXPECT_EQ(m_scratch.bytes("out/K.Eden/Missions/A.Eden/a.sqs"), "a");
+  EXPECT_EQ(m_scratch.bytes("out/K.Eden/Missions/A.Eden/z.sqs"), "z");
+  EXPECT_FALSE(m_scratch.has("out/K.Eden/Missions/A.Eden/mission.sqm")); // no half of it
+  EXPECT_TRUE(logged("Nastala chyba při kopírování souboru: " + m_scratch.path("mise/A.Eden") +
+                     " do: " + m_scratch.path("out/K.Eden/Missions/A.Eden") + " , 61, Disk full\r\n"));
+  EXPECT_TRUE(logged("Nastala chyba při vytváření Description.ext pro kampaň do složky: " +
+                     m_scratch.path("out/K.Eden/Description.ext") + ", 61, Disk full\r\n"));
+  EXPECT_TRUE(logged("Nastala chyba při vytváření overview pro kampaň do: " +
+                     m_scratch.path("out/K.Eden/Overview.html") + ", 61, Disk full\r\n"));
 }
 
 TEST_F(Copying, FoldersAboveAreNotMade)

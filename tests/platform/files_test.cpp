@@ -1,9 +1,9 @@
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "tests/platform/scratch.h"
+#include "tests/platform/small_disk.h"
 
 #include <algorithm>
-#include <csignal>
 #include <functional>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -18,6 +18,7 @@ namespace
 
 using tests::openDescriptors;
 using tests::Scratch;
+using tests::SmallDisk;
 using Names = std::vector<std::string>;
 
 /// The number of the failure that a step throws, 0 for none.
@@ -42,30 +43,6 @@ mode_t modeOf(const std::filesystem::path& path)
   stat(path.c_str(), &status);
   return status.st_mode & 07777;
 }
-
-/// No file of this process grows beyond `bytes`: what a full disk is to the one who writes.
-class SmallDisk
-{
-public:
-  explicit SmallDisk(rlim_t bytes)
-  {
-    m_handler = std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &m_before);
-    const rlimit small{bytes, m_before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-  }
-  SmallDisk(const SmallDisk&) = delete;
-  SmallDisk& operator=(const SmallDisk&) = delete;
-  ~SmallDisk()
-  {
-    setrlimit(RLIMIT_FSIZE, &m_before);
-    std::signal(SIGXFSZ, m_handler);
-  }
-
-private:
-  rlimit m_before{};
-  void (*m_handler)(int) = nullptr;
-};
 
 std::string manyBytes(std::size_t count)
 {
