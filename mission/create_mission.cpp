@@ -70,7 +70,7 @@ void copyPicture(const std::string& from, const std::string& to)
 }
 
 /// The tail of every creation: the overview picture and the faces. All faces go to the one folder of the chosen player,
-/// so the last one stays.
+/// so the last one stays; while none is chosen the copy has no place to go.
 void copyPictures()
 {
   if (!shared.CestaObrazku.empty() && !shared.CilObrazku.empty())
@@ -81,7 +81,7 @@ void copyPictures()
         [&]
         {
           const std::string& face = shared.Identity.at(i).Obrazek;
-          if (!face.empty())
+          if (!face.empty() && !shared.SlozkaUzivatele.empty())
             copyPicture(face, shared.SlozkaUzivatele + "\\face.jpg");
         });
 }

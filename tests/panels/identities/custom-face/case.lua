@@ -37,9 +37,11 @@ equal(shared.CilObrazku .. frmmain.lbljmeno.caption, "", "the overview has no pi
 -- without a player the copy fails in silence
 frmmain.seznamakci:select(0)
 from = #log()
+local at_root = exists("/face.jpg")
 frmmain.cmdvytvor:click()
 lacks(log():sub(from + 1), "face.jpg", "no player: nothing is said")
 equal(exists(player .. "/face.jpg"), false, "and nothing copied")
+equal(exists("/face.jpg"), at_root, "not to the disk's root either")
 
 Form2.List1:select(0)
 equal(shared.SlozkaUzivatele, path(game) .. "\\users\\Jana Nová", "the chosen player")
