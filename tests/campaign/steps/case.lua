@@ -69,6 +69,18 @@ for _, way in ipairs({{frmcamp3, "cmdnext", frmcamp4}, {frmcamp4, "cmddale", frm
   way[3]:close()
 end
 
+-- back from the scores to the identities and on again: nothing is lost
+pick(mission("Z.Eden"))
+frmcamp3.cmdaddA:click()
+frmcamp3.cdmaddP:click()
+Form2.cmdadd:click()
+frmcamp3.cmdPrev:click()
+Form2.cmdOk:click()
+equal(rows(Form2.seznamidentit) .. marks(Form2.seznamidentit) .. rows(frmcamp3.awardlist) .. rows(frmcamp3.penaltylist),
+  "T+Award 1Penalty 1", "identities, awards and penalties are there still")
+equal(shared.PocetIdentitKampane .. shared.PocetOdmen .. shared.PocetTrestu, "111", "and counted")
+frmcamp3:close()
+
 -- each cancel resets and hides its own form; the fields of the first step stay
 local a = mission("A.Eden")
 for i, form in ipairs({frmcamp1, frmcamp2, frmcamp3, frmcamp4, frmcamp5, frmcampobr, frmcamp6}) do
@@ -82,6 +94,7 @@ for i, form in ipairs({frmcamp1, frmcamp2, frmcamp3, frmcamp4, frmcamp5, frmcamp
   frmcamp3.cdmaddP:click()
   shared.KampanMod, shared.ObrazekKampane = -1, "\\a.jpg"
   frmcampobr.txtkampover.text = "Text " .. i
+  frmcamp5.txtradiohlasitost.text, frmcamp5.txtzvukhloubka.text, frmcamp5.txtjmenohudby.text = "+" .. i, "1." .. i, "h" .. i
   frmcamp5.cmdPrev:click()
   form.cmdstorno:click()
   local what = "cancelled on " .. form.caption .. ": "
@@ -102,6 +115,8 @@ for i, form in ipairs({frmcamp1, frmcamp2, frmcamp3, frmcamp4, frmcamp5, frmcamp
   equal(frmcamp5.cmdodebratradio.enabled or frmcamp5.cmdodebratzvuk.enabled or frmcamp5.cmdodebrathudbu.enabled, false,
     what .. "removing sounds")
   equal(frmcampobr.txtkampover.text, "Text " .. i, what .. "the overview's text stays")
+  equal(frmcamp5.txtradiohlasitost.text .. frmcamp5.txtzvukhloubka.text .. frmcamp5.txtjmenohudby.text, "+" .. i .. "1." .. i .. "h" .. i,
+    what .. "the boxes of the sounds keep their texts")
   frmcamp4:close()
 end
 frmmain.mnucampaignedit:click()
