@@ -13,6 +13,9 @@
 #include "core/strings.h"
 #include "platform/codepage.h"
 #include "platform/paths.h"
+#include "script/catalogue.h"
+#include "script/colouring.h"
+#include "script/word_classes.h"
 #include "script/word_search.h"
 #include "tests/test_home.h"
 #include "tools/mission_readme.h"
@@ -39,7 +42,6 @@ namespace fs = std::filesystem;
 
 constexpr std::array catalogues{"commands.dat", "edit.dat",    "Faces.dat",    "Speakers.dat", "fonts.dat",
                                 "Rscdef.dat",   "islands.dat", "ofpsites.dat", "Readme.txt"};
-constexpr std::array wordHeadings{"ZBRANE", "OPERATORY", "PRIKAZY", "ACTIONKON", "ANIMACE"};
 
 fs::path dataFolder()
 {
@@ -426,30 +428,6 @@ TEST(CommandCatalogue, ShowsEveryCommandAndOperator)
   }
 }
 
-// An inserted line is coloured at once: its operands must not turn into something else.
-TEST(CommandCatalogue, KeepsItsSpellingInTheEditor)
-{
-  std::map<std::string, std::string> spellings;
-  for (const CatalogueWord& word : catalogueWords())
-    spellings.emplace(upper(word.text), word.text);
-  for (const CommandGroup& group : commandGroups())
-  {
-    for (const std::string& command : group.commands)
-    {
-      for (std::size_t start = 0; start < command.size();)
-      {
-        const std::size_t end = std::min(command.find(' ', start), command.size());
-        const std::string word = command.substr(start, end - start);
-        if (const auto known = spellings.find(upper(word)); known != spellings.end())
-        {
-          EXPECT_EQ(word, known->second) << command;
-        }
-        start = end + 1;
-      }
-    }
-  }
-}
-
 TEST(WordCatalogue, HasTheClassesInTheirOrder)
 {
   std::vector<std::string> headings;
@@ -459,15 +437,15 @@ TEST(WordCatalogue, HasTheClassesInTheirOrder)
       headings.push_back(line);
   }
   std::vector<std::string> expected;
-  for (const std::string heading : wordHeadings)
-    expected.push_back("@" + heading);
+  for (const WordClass& entry : wordClasses)
+    expected.push_back("@" + std::string(entry.heading));
   EXPECT_EQ(headings, expected);
   EXPECT_EQ(linesOf("edit.dat").front(), expected.front());
 }
 
 TEST(WordCatalogue, IsAlphabeticalInsideAClass)
 {
-  for (const std::string heading : wordHeadings)
+  for (const std::string_view heading : {"ZBRANE", "OPERATORY", "PRIKAZY", "ACTIONKON", "ANIMACE"})
   {
     std::vector<std::string> words;
     for (const CatalogueWord& word : catalogueWords())
@@ -476,7 +454,7 @@ TEST(WordCatalogue, IsAlphabeticalInsideAClass)
         words.push_back(word.text);
     }
     EXPECT_FALSE(words.empty()) << heading;
-    expectAscending(words, heading);
+    expectAscending(words, std::string(heading));
   }
 }
 
@@ -495,18 +473,49 @@ TEST(WordCatalogue, HoldsWordsThatTheEditorLooksUp)
     EXPECT_EQ(word.text.find_first_of(" ;"), std::string::npos) << word.text;
 }
 
+TEST_F(DataInTheProgram, TheTreeShowsEveryCommand)
+{
+  NactiPrikazy(programFile("\\Bfdata\\commands.dat"));
+  EXPECT_EQ(frmmain.prikazy.count(), static_cast<int>(linesOf("commands.dat").size()));
+  for (const CommandGroup& group : commandGroups())
+  {
+    for (const std::string& command : group.commands)
+    {
+      const Tree::Node* const node = frmmain.prikazy.find(group.heading + group.subheading + command);
+      ASSERT_NE(node, nullptr) << command;
+      EXPECT_EQ(node->text, command);
+      EXPECT_EQ(node->parent->text, group.subheading);
+    }
+  }
+}
+
 TEST_F(DataInTheProgram, EveryWordOfScriptsIsFoundInAnyCase)
 {
-  List& words = frmrejstrik.seznam;
-  words.clear();
-  for (const CatalogueWord& word : catalogueWords())
-    words.add(word.text);
-  ASSERT_TRUE(words.sorted());
+  const List& words = frmrejstrik.seznam;
+  NactiDruhePrikazy(programFile("\\Bfdata\\edit.dat"));
+  EXPECT_EQ(words.count(), static_cast<int>(catalogueWords().size()));
   for (const CatalogueWord& word : catalogueWords())
   {
     const int row = found(upper(word.text), words);
     ASSERT_GE(row, 0) << word.text;
     EXPECT_EQ(words.text(row), word.text);
+    ASSERT_NE(wordClass(words.tag(row)), nullptr) << word.text;
+    EXPECT_EQ(wordClass(words.tag(row))->heading, word.heading) << word.text;
+  }
+}
+
+// An inserted line is coloured at once: its operands must not turn into something else.
+TEST_F(DataInTheProgram, CommandsKeepTheirSpellingInTheEditor)
+{
+  NactiDruhePrikazy(programFile("\\Bfdata\\edit.dat"));
+  for (const CommandGroup& group : commandGroups())
+  {
+    for (const std::string& command : group.commands)
+    {
+      frmmain.skript.set(command);
+      ObarviSkript(frmmain.skript);
+      EXPECT_EQ(frmmain.skript.text(), command);
+    }
   }
 }
 
