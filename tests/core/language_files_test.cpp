@@ -38,7 +38,12 @@ struct PackPage
   int page;
 };
 
-constexpr std::array<PackPage, 2> packPages{{{"Czech.lng", 1250}, {"English.lng", 1250}}};
+constexpr std::array<PackPage, 6> packPages{{{"Czech.lng", 1250},
+                                             {"English.lng", 1252},
+                                             {"French.lng", 1252},
+                                             {"German.lng", 1252},
+                                             {"Italian.lng", 1252},
+                                             {"Spanish.lng", 1252}}};
 
 /// Lines that may say the same, because they stand on different forms or are compared with each other.
 const std::vector<std::set<int>> mayRepeat{
