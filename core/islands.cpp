@@ -16,11 +16,6 @@ namespace tarvelin
 namespace
 {
 
-void logLine(std::string_view what, std::string_view value)
-{
-  ZapisLog(std::string(what) + std::string(value) + std::string(crlf));
-}
-
 void grow(Array<std::string>& array, int index, const std::string& value)
 {
   array.redimPreserve(index);
@@ -43,18 +38,18 @@ void NactiOstrovy(std::string_view path)
   while (file && !file->atEnd() && count < INT16_MAX)
   {
     const std::string name = file->next();
-    logLine("Jméno ostrovu: ", name);
+    logLine("Jméno ostrovu: " + name);
     for (Combo* const combo : {&frmcamp3.penaltyland, &frmcamp3.awardlend})
       combo->add(name, count);
     grow(shared.OstrovyJmena, count, name);
     std::string suffix; // an unpaired last name has none
     if (!file->atEnd())
       suffix = file->next();
-    logLine("Koncovka ostrovu: ", suffix);
+    logLine("Koncovka ostrovu: " + suffix);
     grow(shared.OstrovyKoncovky, count, suffix);
     ++count;
   }
-  logLine("Konec načítání souboru s ostrovy", {});
+  logLine("Konec načítání souboru s ostrovy");
   for (Combo* const combo : {&frmcamp3.penaltyland, &frmcamp3.awardlend})
     if (combo->count() > 0)
       combo->select(0);

@@ -58,6 +58,11 @@ void ZapisLog(std::string_view text)
   frmload.log.append(text);
 }
 
+void logLine(std::string_view line)
+{
+  ZapisLog(std::string(line) + std::string(crlf));
+}
+
 std::string failureText(const Failure& failure)
 {
   return std::to_string(failure.number) + ", " + failure.description;

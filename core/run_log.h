@@ -11,6 +11,9 @@ namespace tarvelin
 /// Adds a text to the run log (frmload.log) as it stands; a line brings its own CR LF.
 void ZapisLog(std::string_view text);
 
+/// Adds a line with its CR LF.
+void logLine(std::string_view line);
+
 /// "number, description" of a failure, as most log lines end.
 std::string failureText(const Failure& failure);
 

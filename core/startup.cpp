@@ -41,11 +41,6 @@ namespace
 
 std::string commandLineOfStart;
 
-void logLine(const std::string& line)
-{
-  ZapisLog(line + std::string(crlf));
-}
-
 /// Reads a catalogue of the program folder; a missing one is logged.
 void readCatalogue(std::string_view file, const Procedures::OfPath& reader)
 {

@@ -4,7 +4,6 @@
 
 #include <lua.hpp>
 
-#include <optional>
 #include <string>
 #include <string_view>
 

@@ -33,11 +33,6 @@ namespace
 constexpr std::int16_t opensMission = 0;
 constexpr std::int16_t addsToCampaign = 7;
 
-void logLine(const std::string& line)
-{
-  ZapisLog(line + std::string(crlf));
-}
-
 void frmopenmission_Load()
 {
   attempt([] { platform::setCurrentFolder(shared.CestaHry); });

@@ -25,11 +25,6 @@ namespace
 constexpr std::int16_t picksMissionPicture = 0;
 constexpr std::int16_t picksTitlePicture = 9;
 
-void logLine(const std::string& line)
-{
-  ZapisLog(line + std::string(crlf));
-}
-
 void Frmopen_Load()
 {
   startPickerIn(shared.CestaHry, Frmopen.Drive1, Frmopen.Dir1);

@@ -2,8 +2,6 @@
 
 #include "core/forms/field.h"
 
-#include <cstdint>
-
 namespace tarvelin
 {
 

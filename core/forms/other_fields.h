@@ -4,7 +4,6 @@
 #include "core/forms/font.h"
 
 #include <initializer_list>
-#include <optional>
 #include <string>
 #include <vector>
 

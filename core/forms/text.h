@@ -5,7 +5,6 @@
 #include "core/forms/text_index.h"
 
 #include <cstddef>
-#include <optional>
 #include <string>
 
 namespace tarvelin
