@@ -77,6 +77,7 @@ void Tree::setKey(std::string_view key, std::string_view newKey)
   node.key() = newKey;
   node.mapped().key = newKey;
   m_byKey.insert(std::move(node));
+  notify({Change::rows});
 }
 
 void Tree::setExpanded(std::string_view key, bool on)

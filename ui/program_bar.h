@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ui/link.h"
+
+#include <map>
+#include <memory>
+
+class QScrollBar;
+class QWidget;
+
+namespace tarvelin::ui
+{
+
+/// The bar of outside programs: icons side by side on a strip that the scroll bar moves behind its frame.
+class ProgramBar : public QObject
+{
+public:
+  /// Takes over the widgets of the bar in the main window.
+  explicit ProgramBar(QWidget& window);
+  ~ProgramBar() override;
+
+  /// Icons came or went: each that is there gets its widget.
+  void follow();
+
+private:
+  void layOut();
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+  QWidget& m_window;
+  QWidget* m_frame;
+  QWidget* m_strip;
+  QScrollBar* m_scroll;
+  std::map<int, std::unique_ptr<Link>> m_icons;
+};
+
+} // namespace tarvelin::ui

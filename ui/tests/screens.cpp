@@ -1,0 +1,127 @@
+// tarvelin-screens FOLDER MISSION: pictures of every window and every tab, in each language of the packs, for somebody
+// to look at.
+
+#include "app/assemble.h"
+#include "core/desk.h"
+#include "core/forms/all_forms.h"
+#include "core/forms/frmloadsite.h"
+#include "core/forms/frmmain.h"
+#include "core/program.h"
+#include "core/startup.h"
+#include "platform/paths.h"
+#include "ui/form_window.h"
+
+#include <QtWidgets>
+
+using namespace tarvelin;
+
+namespace
+{
+
+/// Chooses the language pack at the first start and says yes to nothing.
+class ScreensDesk : public Desk
+{
+public:
+  explicit ScreensDesk(const QString& language) : m_language(language) {}
+
+  void showModal(Form& form) override
+  {
+    if (&form != &frmloadsite)
+      return;
+    for (int row = 0; row < frmloadsite.List1.count(); ++row)
+      if (QString::fromStdString(frmloadsite.List1.text(row)).startsWith(m_language))
+        frmloadsite.List1.userSelect(row);
+    frmloadsite.Command1.click();
+  }
+  Answer box(std::string_view, Buttons buttons, Icon) override
+  {
+    return buttons == Buttons::ok ? Answer::ok : Answer::no;
+  }
+  std::optional<std::string> prompt(std::string_view, std::string_view, std::string_view) override { return "Jan"; }
+  std::optional<Colour> chooseColour(Colour) override { return {}; }
+  std::optional<tarvelin::Font> chooseFont(const tarvelin::Font&) override { return {}; }
+  std::optional<std::string> chooseFile(std::string_view) override { return {}; }
+  bool launch(std::string_view, std::string_view, std::string_view) override { return false; }
+  bool browse(std::string_view) override { return false; }
+  void breathe() override {}
+
+private:
+  QString m_language;
+};
+
+void settle()
+{
+  for (int i = 0; i < 5; ++i)
+    QCoreApplication::processEvents();
+}
+
+/// Every tab of the outermost strip of tabs, and below each the tabs of the strip inside it.
+void grabTabs(QWidget& window, const QString& file, QTabWidget* strip)
+{
+  if (!strip)
+  {
+    settle();
+    window.grab().save(file + ".png");
+    return;
+  }
+  for (int tab = 0; tab < strip->count(); ++tab)
+  {
+    strip->setCurrentIndex(tab);
+    grabTabs(window, file + '-' + QString::number(tab), strip->currentWidget()->findChild<QTabWidget*>());
+  }
+}
+
+void copyFolder(const QString& from, const QString& to)
+{
+  QDir().mkpath(to);
+  for (const QFileInfo& entry : QDir(from).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot))
+    if (entry.isDir())
+      copyFolder(entry.filePath(), to + '/' + entry.fileName());
+    else
+      QFile::copy(entry.filePath(), to + '/' + entry.fileName());
+}
+
+void grabAll(const QString& folder, const QString& language, const QString& mission)
+{
+  const QTemporaryDir home;
+  copyFolder(QCoreApplication::applicationDirPath() + "/Bfdata", home.filePath("Bfdata"));
+  setProgramFolder(platform::toProgram(home.path().toStdString()));
+  assembleProgram();
+  ScreensDesk desk(language);
+  setDesk(&desk);
+  ui::FormWindows windows;
+  startProgram(("MISSION=" + mission).toStdString());
+  for (Form* const form : allForms())
+  {
+    QWidget* const window = windows.of(*form).window();
+    if (!window)
+      continue;
+    form->load();
+    window->setWindowTitle(QString::fromStdString(form->caption()));
+    if (!window->isVisible())
+      window->show();
+    grabTabs(*window, folder + '/' + language + '-' + QString::fromStdString(form->name()),
+             window->findChild<QTabWidget*>());
+    if (form != &frmmain)
+      window->hide();
+  }
+  setDesk(nullptr);
+}
+
+} // namespace
+
+int main(int count, char** arguments)
+{
+  QApplication application(count, arguments);
+  const QStringList given = QApplication::arguments();
+  if (given.size() != 3)
+  {
+    std::fputs("usage: tarvelin-screens FOLDER MISSION\n", stderr);
+    return 2;
+  }
+  QDir().mkpath(given[1]);
+  const QString packs = QCoreApplication::applicationDirPath() + "/Bfdata/languages/Tv";
+  for (const QFileInfo& pack : QDir(packs).entryInfoList({"*.lng"}))
+    grabAll(given[1], pack.completeBaseName(), given[2]);
+  return 0;
+}
