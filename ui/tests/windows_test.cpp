@@ -159,7 +159,7 @@ void WindowsTest::boxIsHarmless()
     QCOMPARE(desk.box("Delete all?", Buttons::yesNo, Icon::question), Answer::no);
   }
   whenDialogOpens([](QWidget& dialog)
-                  { qobject_cast<QMessageBox&>(dialog).button(QMessageBox::Yes)->click(); });
+                  { qobject_cast<QMessageBox*>(&dialog)->button(QMessageBox::Yes)->click(); });
   QCOMPARE(desk.box("Delete all?", Buttons::yesNo, Icon::question), Answer::yes);
   whenDialogOpens([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
   QCOMPARE(desk.box("Done", Buttons::ok, Icon::information), Answer::ok);
@@ -425,7 +425,7 @@ int main(int count, char** arguments)
     whenDialogOpens(
         [](QWidget& dialog)
         {
-          std::fprintf(stderr, "box: %s\n", qPrintable(qobject_cast<QMessageBox&>(dialog).text()));
+          std::fprintf(stderr, "box: %s\n", qPrintable(qobject_cast<QMessageBox*>(&dialog)->text()));
           QTest::keyClick(&dialog, Qt::Key_Return);
         });
     ui::act([] { throw Failure(Fault::subscript); });
