@@ -2,7 +2,6 @@
 
 #include "platform/codepage.h"
 
-
 namespace tarvelin
 {
 

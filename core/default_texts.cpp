@@ -28,24 +28,12 @@ void setAll(std::initializer_list<DefaultText> texts)
 void setMissionTexts()
 {
   setAll({
-      {frmmain.txtBriefink, 7},
-      {frmmain.txtOverview, 8},
-      {frmmain.txtPoznamky, 9},
-      {frmmain.txtJmenoMise, 53},
-      {frmmain.onloadintro, 53},
-      {frmmain.txtUkol, 54},
-      {frmmain.txtBrifingJmeno, 55},
-      {frmmain.txtBrifingPopis, 55},
-      {frmmain.txtSpojenci, 55},
-      {frmmain.onloadmission, 56},
-      {frmmain.txtjmenoradia, 57},
-      {frmmain.txtradiojmeno, 58},
-      {frmmain.txtjmenozvuku, 59},
-      {frmmain.txtnazev, 60},
-      {frmmain.txtjmenohudby, 61},
-      {frmmain.txthudbanazev, 62},
-      {frmmain.txtradio, 63},
-      {frmmain.txtzvuk, 64},
+      {frmmain.txtBriefink, 7},      {frmmain.txtOverview, 8},      {frmmain.txtPoznamky, 9},
+      {frmmain.txtJmenoMise, 53},    {frmmain.onloadintro, 53},     {frmmain.txtUkol, 54},
+      {frmmain.txtBrifingJmeno, 55}, {frmmain.txtBrifingPopis, 55}, {frmmain.txtSpojenci, 55},
+      {frmmain.onloadmission, 56},   {frmmain.txtjmenoradia, 57},   {frmmain.txtradiojmeno, 58},
+      {frmmain.txtjmenozvuku, 59},   {frmmain.txtnazev, 60},        {frmmain.txtjmenohudby, 61},
+      {frmmain.txthudbanazev, 62},   {frmmain.txtradio, 63},        {frmmain.txtzvuk, 64},
       {frmmain.skript, 85},
   });
 }

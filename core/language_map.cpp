@@ -345,7 +345,8 @@ constexpr CaptionLine lines[] = {
     tab("frmdalsinast", "SSTab1", 4),
     field("frmdalsinast", "Command9"),
     field("frmdalsinast", "Command8"),
-    field("frmdalsinast", "Label4"),};
+    field("frmdalsinast", "Label4"),
+};
 
 static_assert(std::size(lines) == 318);
 

@@ -71,10 +71,12 @@ std::string failureText(const Failure& failure)
 void saveRunLog()
 {
   const std::string folder = programFile(logFolder);
-  attempt([&] {
-    if (!platform::folderExists(folder))
-      platform::createFolder(folder);
-  });
+  attempt(
+      [&]
+      {
+        if (!platform::folderExists(folder))
+          platform::createFolder(folder);
+      });
   attempt([&] { writeText(folder + "\\" + logFileName(), frmload.log.text()); });
 }
 

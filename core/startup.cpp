@@ -140,9 +140,8 @@ void frmmain_Load()
 
 void frmstart_Load()
 {
-  for (Form* const form :
-       std::initializer_list<Form*>{&frmmain, &frmcamp1, &frmcamp2, &frmcamp3, &frmcamp4, &frmcamp5, &frmcamp6,
-                                    &frmcamp7, &frmrejstrik, &frmsettings})
+  for (Form* const form : std::initializer_list<Form*>{&frmmain, &frmcamp1, &frmcamp2, &frmcamp3, &frmcamp4, &frmcamp5,
+                                                       &frmcamp6, &frmcamp7, &frmrejstrik, &frmsettings})
     attempt([&] { form->load(); });
   frmstart.hide();
   frmmain.show();

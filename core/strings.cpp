@@ -210,8 +210,9 @@ std::string replaced(std::string_view text, std::string_view what, std::string_v
 
 bool sameAscii(std::string_view a, std::string_view b)
 {
-  return std::ranges::equal(a, b, {}, [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; },
-                            [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+  return std::ranges::equal(
+      a, b, {}, [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; },
+      [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
 }
 
 bool sameIgnoringCase(std::string_view a, std::string_view b)

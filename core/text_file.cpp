@@ -21,10 +21,7 @@ std::string_view LineWalker::next()
   return line;
 }
 
-LineReader::LineReader(std::string_view path)
-    : m_text(platform::decode(platform::readFile(path))), m_lines(m_text)
-{
-}
+LineReader::LineReader(std::string_view path) : m_text(platform::decode(platform::readFile(path))), m_lines(m_text) {}
 
 void writeText(std::string_view path, std::string_view text)
 {

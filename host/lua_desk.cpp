@@ -16,14 +16,10 @@ const char* iconName(Icon icon)
 {
   switch (icon)
   {
-  case Icon::information:
-    return "information";
-  case Icon::question:
-    return "question";
-  case Icon::critical:
-    return "critical";
-  case Icon::none:
-    break;
+  case Icon::information: return "information";
+  case Icon::question: return "question";
+  case Icon::critical: return "critical";
+  case Icon::none: break;
   }
   return "";
 }

@@ -243,9 +243,9 @@ void openForms(lua_State* lua)
                                {"__eq", guarded<formEquals>},
                                {nullptr, nullptr}};
   constexpr luaL_Reg array[] = {{"__index", guarded<arrayIndex>}, {nullptr, nullptr}};
-  constexpr luaL_Reg field[] = {{"__index", guarded<fieldIndex>},       {"__newindex", guarded<fieldNewIndex>},
-                                {"__len", guarded<fieldLength>},        {"__tostring", guarded<fieldToString>},
-                                {"__eq", guarded<fieldEquals>},         {nullptr, nullptr}};
+  constexpr luaL_Reg field[] = {{"__index", guarded<fieldIndex>}, {"__newindex", guarded<fieldNewIndex>},
+                                {"__len", guarded<fieldLength>},  {"__tostring", guarded<fieldToString>},
+                                {"__eq", guarded<fieldEquals>},   {nullptr, nullptr}};
   newType(lua, formType, form);
   newType(lua, arrayType, array);
   newType(lua, fieldType, field);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <lua.hpp>
-
 #include <string_view>
 
 namespace tarvelin::host

@@ -3,7 +3,6 @@
 #include "core/forms/font.h"
 
 #include <lua.hpp>
-
 #include <string>
 #include <string_view>
 

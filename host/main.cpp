@@ -11,10 +11,9 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 
-#include <lua.hpp>
-
 #include <cstdio>
 #include <filesystem>
+#include <lua.hpp>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -115,7 +114,8 @@ int main(int count, char** arguments)
     std::fputs("usage: tarvelin-script [--home DIR] SCRIPT.lua [ARGUMENT ...]\n", stderr);
     return wrongCommandLine;
   }
-  setProgramFolder(line.home.empty() ? findProgramFolder() : platform::toProgram(std::filesystem::absolute(line.home).string()));
+  setProgramFolder(line.home.empty() ? findProgramFolder()
+                                     : platform::toProgram(std::filesystem::absolute(line.home).string()));
   assembleProgram();
   const std::unique_ptr<lua_State, decltype(&lua_close)> lua(luaL_newstate(), &lua_close);
   if (!lua)

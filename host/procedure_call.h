@@ -26,8 +26,7 @@ template <> struct Argument<std::string>
 };
 
 template <class T>
-  requires std::integral<T> && (!std::same_as<T, bool>)
-struct Argument<T>
+requires std::integral<T> &&(!std::same_as<T, bool>)struct Argument<T>
 {
   T value;
   Argument(lua_State* lua, int index)
@@ -63,8 +62,8 @@ template <std::derived_from<Field> T> struct Argument<T>
 };
 
 template <class T>
-using ArgumentOf = Argument<
-    std::conditional_t<std::same_as<std::decay_t<T>, std::string_view>, std::string, std::decay_t<T>>>;
+using ArgumentOf =
+    Argument<std::conditional_t<std::same_as<std::decay_t<T>, std::string_view>, std::string, std::decay_t<T>>>;
 
 inline void pushResult(lua_State* lua, std::string_view value)
 {

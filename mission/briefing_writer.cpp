@@ -38,8 +38,7 @@ void addNotes(std::string& page, const std::string& notes)
   if (!severalSides())
     return addSection(page, "SEkce poznamky", "Main", notes);
   for (const Side& side : sides)
-    addSection(page, "SEkce poznamky pro " + std::string(side.comment), "Main." + std::string(side.anchor),
-               side.notes);
+    addSection(page, "SEkce poznamky pro " + std::string(side.comment), "Main." + std::string(side.anchor), side.notes);
 }
 
 void addPlan(std::string& page, const std::string& plan)
@@ -89,7 +88,8 @@ void addEnds(std::string& page, const LoggedSteps& steps)
     ++n;
     const auto end = [&]() -> const ZaznamKonce& { return shared.Konce.at(ends.tag(i)); };
     addLine(page, "<P>");
-    steps([&] { addLine(page, "<H2><A name=\"Debriefing: End" + std::to_string(n) + "\">" + end().Nadpis + "</A></H2>"); });
+    steps([&]
+          { addLine(page, "<H2><A name=\"Debriefing: End" + std::to_string(n) + "\">" + end().Nadpis + "</A></H2>"); });
     steps([&] { addLine(page, end().Text); });
     addLine(page, "</P><BR><HR><BR>");
   }

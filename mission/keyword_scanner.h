@@ -11,8 +11,8 @@
 namespace tarvelin
 {
 
-/// Tells which of a set of keywords the lines of a text hold, at any place and ignoring case. Keywords are ASCII in upper
-/// case; keyword i is bit i.
+/// Tells which of a set of keywords the lines of a text hold, at any place and ignoring case. Keywords are ASCII in
+/// upper case; keyword i is bit i.
 class KeywordScanner
 {
 public:
@@ -32,8 +32,8 @@ private:
   KeywordMachine m_machine;
 };
 
-/// Finds the lines of a long text that hold a keyword, without a look at the others one by one: it runs ahead in windows,
-/// in each of which several machines read at once.
+/// Finds the lines of a long text that hold a keyword, without a look at the others one by one: it runs ahead in
+/// windows, in each of which several machines read at once.
 class KeywordFinder
 {
 public:

@@ -61,11 +61,36 @@ enum Keyword
 
 /// In the order of Keyword. The first ones are of interest anywhere, the rest only among the items of a class.
 constexpr std::string_view keywords[] = {
-    "BRIEFINGNAME",  "BRIEFINGDESCRIPTION", "STARTWEATHER",   "FORECASTWEATHER", "STARTFOG",      "FORECASTFOG",
-    "MONTH",         "DAY",                 "HOUR",           "MINUTE",          "CLASS INTRO",   "CLASS MISSION",
-    "CLASS OUTROWIN", "CLASS OUTROLOOSE",   "RESISTANCEEAST", "RESISTANCEWEST",  "CLASS MARKERS", "CLASS SENSORS",
-    "ADDONS[]",      "ADDONS[]={}",         "CLASS ITEM",     "{",               "}",             "COLORNAME",
-    "FILLNAME",      "NAME",                "TEXT",           "TYPE",            "ACTIVATIONTYPE", "TITLETEXT",
+    "BRIEFINGNAME",
+    "BRIEFINGDESCRIPTION",
+    "STARTWEATHER",
+    "FORECASTWEATHER",
+    "STARTFOG",
+    "FORECASTFOG",
+    "MONTH",
+    "DAY",
+    "HOUR",
+    "MINUTE",
+    "CLASS INTRO",
+    "CLASS MISSION",
+    "CLASS OUTROWIN",
+    "CLASS OUTROLOOSE",
+    "RESISTANCEEAST",
+    "RESISTANCEWEST",
+    "CLASS MARKERS",
+    "CLASS SENSORS",
+    "ADDONS[]",
+    "ADDONS[]={}",
+    "CLASS ITEM",
+    "{",
+    "}",
+    "COLORNAME",
+    "FILLNAME",
+    "NAME",
+    "TEXT",
+    "TYPE",
+    "ACTIVATIONTYPE",
+    "TITLETEXT",
     "EXPCOND",
 };
 
@@ -109,7 +134,10 @@ class SqmLines
 {
 public:
   explicit SqmLines(std::string_view text)
-      : m_scanner(keywords), m_finder(std::span(keywords).first(keywordsAnywhere), text), m_text(text), m_line{{}, 0, text}
+      : m_scanner(keywords),
+        m_finder(std::span(keywords).first(keywordsAnywhere), text),
+        m_text(text),
+        m_line{{}, 0, text}
   {
   }
 
@@ -251,7 +279,8 @@ void SqmReading::items(std::int16_t& count, Array<Record>& records, ReadFields r
     }
     if (m_lines.hasAny())
       readFields(i);
-  } while (i != count);
+  }
+  while (i != count);
 }
 
 /// Add-on names between the braces that follow. The last of a list has no comma behind it, so it gets no row and the
@@ -322,12 +351,9 @@ void NactiSqm(const std::string& path)
 {
   frmdalsinast.addony.clear();
   std::optional<platform::MappedFile> file;
-  const bool opened = attempt([&] { file.emplace(path); },
-                              [&](const Failure& failure)
-                              {
-                                ZapisLog("Nastala chyba při čtení mise z: " + path + ", " + failureText(failure) +
-                                         std::string(crlf));
-                              });
+  const bool opened = attempt(
+      [&] { file.emplace(path); }, [&](const Failure& failure)
+      { ZapisLog("Nastala chyba při čtení mise z: " + path + ", " + failureText(failure) + std::string(crlf)); });
   if (!opened)
     return;
   SqmReading(file->bytes()).run();

@@ -53,9 +53,9 @@ struct Magazine
 {
   const Check& check;
   const Text& count;
-  const Check* named = nullptr;     ///< the check whose caption is the class name, when it is another one
-  const Check* or_ = nullptr;       ///< a second check that will do
-  std::string_view name = {};       ///< a class name that no caption gives
+  const Check* named = nullptr; ///< the check whose caption is the class name, when it is another one
+  const Check* or_ = nullptr;   ///< a second check that will do
+  std::string_view name = {};   ///< a class name that no caption gives
   std::string_view indent = fourBlanks;
 };
 

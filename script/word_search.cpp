@@ -22,7 +22,8 @@ int halved(std::int64_t sum)
 }
 
 /// `compared(row)` gives the part of a row's text that is compared.
-template <class Compared> int search(int first, int last, const std::string& needle, const Rows& list, Compared compared)
+template <class Compared>
+int search(int first, int last, const std::string& needle, const Rows& list, Compared compared)
 {
   for (;;)
   {

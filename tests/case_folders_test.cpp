@@ -1,14 +1,14 @@
 // Runs every folder under tests/ that holds a case.lua through tarvelin-script. Beside it may lie `mission`, which is
-// copied to the scratch folder as mission.Eden, `home`, which is laid over the program folder, and `expected`: after the
-// script every one of its files must lie in mission.Eden byte for byte, and no other file that `mission` did not bring.
-// Comments at the head of the script steer it: "-- home: fresh" (a first start), "-- exit: N", "-- stderr: TEXT".
+// copied to the scratch folder as mission.Eden, `home`, which is laid over the program folder, and `expected`: after
+// the script every one of its files must lie in mission.Eden byte for byte, and no other file that `mission` did not
+// bring. Comments at the head of the script steer it: "-- home: fresh" (a first start), "-- exit: N", "-- stderr:
+// TEXT".
 
 #include "tests/test_home.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <filesystem>
+#include <gtest/gtest.h>
 #include <regex>
 #include <set>
 #include <string>
@@ -49,7 +49,8 @@ void expectSameBytes(const std::string& name, const std::string& got, const std:
     const auto from = text.begin() + std::max<std::ptrdiff_t>(0, (at - text.begin()) - 40);
     return std::string(from, std::min(at + 40, text.end()));
   };
-  ADD_FAILURE() << name << " differs in line " << line << "\n  got:  " << testing::PrintToString(around(got, differ.first))
+  ADD_FAILURE() << name << " differs in line " << line
+                << "\n  got:  " << testing::PrintToString(around(got, differ.first))
                 << "\n  want: " << testing::PrintToString(around(want, differ.second));
 }
 
@@ -109,7 +110,8 @@ private:
 std::string nameOf(const fs::path& folder)
 {
   std::string name = fs::relative(folder, TARVELIN_TESTS).generic_string();
-  std::replace_if(name.begin(), name.end(), [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
+  std::replace_if(
+      name.begin(), name.end(), [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
   return name;
 }
 

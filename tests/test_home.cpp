@@ -110,7 +110,8 @@ void makeHome(const fs::path& home, bool settings)
   text("islands.dat", "Everon\nEden\nMalden\nAbel\nKolgujev\nCain\n");
   text("ofpsites.dat", "http://one.example/\nhttp://two.example/\n");
   text("commands.dat", "@Units\n#Orders\ndoMove\ndoStop\n#Groups\njoin\n@World\n#Time\nskipTime\n");
-  text("edit.dat", "@ZBRANE\nM16\n@OPERATORY\nand\n@PRIKAZY\ndoMove\ngetPos\n@ACTIONKON\nEJECT\n@ANIMACE\nCombatToStand\n");
+  text("edit.dat",
+       "@ZBRANE\nM16\n@OPERATORY\nand\n@PRIKAZY\ndoMove\ngetPos\n@ACTIONKON\nEJECT\n@ANIMACE\nCombatToStand\n");
   text("Faces.dat", "Face1\nAdam\nFace2\nBruno\nFace3\nCyril\n");
   text("Speakers.dat", "v1\nAdam\nv2\nDan\nv3\nZed\n");
   text("fonts.dat", "TahomaB24\nCourierNewB64\nSteelfishB64\n");

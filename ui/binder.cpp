@@ -32,46 +32,26 @@ std::unique_ptr<Link> bindField(Field& field, QWidget& window)
   QWidget* const widget = window.findChild<QWidget*>(name);
   switch (field.kind())
   {
-  case Kind::text:
-    return linkText(static_cast<Text&>(field), widget);
-  case Kind::richtext:
-    return linkRichText(static_cast<RichText&>(field), widget);
-  case Kind::label:
-    return linkLabel(static_cast<Label&>(field), widget);
-  case Kind::command:
-    return linkCommand(static_cast<Command&>(field), widget);
-  case Kind::check:
-    return linkCheck(static_cast<Check&>(field), widget);
-  case Kind::option:
-    return linkOption(static_cast<Option&>(field), widget);
-  case Kind::list:
-    return linkList(static_cast<List&>(field), widget);
-  case Kind::combo:
-    return linkCombo(static_cast<Combo&>(field), widget);
-  case Kind::tree:
-    return linkTree(static_cast<Tree&>(field), widget);
-  case Kind::picture:
-    return linkPicture(static_cast<Picture&>(field), widget);
-  case Kind::slider:
-    return linkSlider(static_cast<Slider&>(field), widget);
-  case Kind::filelist:
-    return linkFileList(static_cast<FileList&>(field), widget);
-  case Kind::folderlist:
-    return linkFolderList(static_cast<FolderList&>(field), widget);
-  case Kind::drivelist:
-    return linkDriveList(static_cast<DriveList&>(field), widget);
-  case Kind::tabstrip:
-    return linkTabs(static_cast<TabStrip&>(field), widget);
-  case Kind::progress:
-    return linkProgress(static_cast<Progress&>(field), widget);
-  case Kind::browser:
-    return linkBrowser(static_cast<Browser&>(field), widget);
-  case Kind::group:
-    return linkGroup(static_cast<Group&>(field), widget);
-  case Kind::menu:
-    return linkMenu(static_cast<Menu&>(field), findMenu(window, name));
-  case Kind::dialog:
-    break; // the platform's own window
+  case Kind::text: return linkText(static_cast<Text&>(field), widget);
+  case Kind::richtext: return linkRichText(static_cast<RichText&>(field), widget);
+  case Kind::label: return linkLabel(static_cast<Label&>(field), widget);
+  case Kind::command: return linkCommand(static_cast<Command&>(field), widget);
+  case Kind::check: return linkCheck(static_cast<Check&>(field), widget);
+  case Kind::option: return linkOption(static_cast<Option&>(field), widget);
+  case Kind::list: return linkList(static_cast<List&>(field), widget);
+  case Kind::combo: return linkCombo(static_cast<Combo&>(field), widget);
+  case Kind::tree: return linkTree(static_cast<Tree&>(field), widget);
+  case Kind::picture: return linkPicture(static_cast<Picture&>(field), widget);
+  case Kind::slider: return linkSlider(static_cast<Slider&>(field), widget);
+  case Kind::filelist: return linkFileList(static_cast<FileList&>(field), widget);
+  case Kind::folderlist: return linkFolderList(static_cast<FolderList&>(field), widget);
+  case Kind::drivelist: return linkDriveList(static_cast<DriveList&>(field), widget);
+  case Kind::tabstrip: return linkTabs(static_cast<TabStrip&>(field), widget);
+  case Kind::progress: return linkProgress(static_cast<Progress&>(field), widget);
+  case Kind::browser: return linkBrowser(static_cast<Browser&>(field), widget);
+  case Kind::group: return linkGroup(static_cast<Group&>(field), widget);
+  case Kind::menu: return linkMenu(static_cast<Menu&>(field), findMenu(window, name));
+  case Kind::dialog: break; // the platform's own window
   }
   return {};
 }

@@ -3,7 +3,6 @@
 #include "ui/link.h"
 
 #include <QString>
-
 #include <memory>
 #include <string>
 #include <vector>

@@ -3,7 +3,6 @@
 #include <QFont>
 #include <QPalette>
 #include <QWidget>
-
 #include <cmath>
 
 namespace tarvelin::ui

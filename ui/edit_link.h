@@ -9,7 +9,6 @@
 #include <QFont>
 #include <QTextCursor>
 #include <QTextDocument>
-
 #include <algorithm>
 #include <cstring>
 #include <functional>

@@ -15,7 +15,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QWindow>
-
 #include <algorithm>
 
 namespace tarvelin::ui

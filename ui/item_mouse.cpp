@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QContextMenuEvent>
 #include <QMouseEvent>
-
 #include <utility>
 
 namespace tarvelin::ui
@@ -43,10 +42,10 @@ bool ItemMouse::eventFilter(QObject* watched, QEvent* event)
     m_down = true;
     m_spent = event->type() == QEvent::MouseButtonDblClick;
     break;
-  case QEvent::MouseMove:
-    return m_down;
+  case QEvent::MouseMove: return m_down;
   case QEvent::MouseButtonRelease: // behind the view's own work with it
-    QMetaObject::invokeMethod(this, [this] { released(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { released(); }, Qt::QueuedConnection);
     break;
   case QEvent::ContextMenu:
     if (onRight && static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard)
@@ -55,8 +54,7 @@ bool ItemMouse::eventFilter(QObject* watched, QEvent* event)
       return true;
     }
     break;
-  default:
-    break;
+  default: break;
   }
   return QObject::eventFilter(watched, event);
 }

@@ -147,8 +147,7 @@ private:
   QAction* m_action;
 };
 
-template <class ItsLink, class ItsField, class ItsWidget>
-std::unique_ptr<Link> linkAs(ItsField& field, QWidget* widget)
+template <class ItsLink, class ItsField, class ItsWidget> std::unique_ptr<Link> linkAs(ItsField& field, QWidget* widget)
 {
   if (auto* const itsWidget = qobject_cast<ItsWidget*>(widget))
     return std::make_unique<ItsLink>(field, itsWidget);

@@ -10,7 +10,6 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QTreeWidget>
-
 #include <algorithm>
 
 namespace tarvelin::ui
@@ -27,7 +26,10 @@ class FileListLink : public Link
 {
 public:
   FileListLink(FileList& field, QListWidget* list)
-      : Link(field, list), m_files(field), m_list(list), m_mouse(*list),
+      : Link(field, list),
+        m_files(field),
+        m_list(list),
+        m_mouse(*list),
         m_icon(list->style()->standardIcon(QStyle::SP_FileIcon))
   {
     list->setUniformItemSizes(true);
@@ -100,7 +102,10 @@ class FolderListLink : public Link
 {
 public:
   FolderListLink(FolderList& field, QTreeWidget* tree)
-      : Link(field, tree), m_folders(field), m_tree(tree), m_mouse(*tree),
+      : Link(field, tree),
+        m_folders(field),
+        m_tree(tree),
+        m_mouse(*tree),
         m_icon(tree->style()->standardIcon(QStyle::SP_DirIcon))
   {
     tree->setHeaderHidden(true);

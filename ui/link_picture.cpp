@@ -33,7 +33,7 @@ QImage readPicture(const QString& file, QSize place)
 
 MouseButton buttonOf(Qt::MouseButton button)
 {
-  return button == Qt::RightButton ? MouseButton::right
+  return button == Qt::RightButton  ? MouseButton::right
          : button == Qt::LeftButton ? MouseButton::left
                                     : MouseButton::middle;
 }
@@ -118,16 +118,10 @@ private:
       return false;
     switch (event->type())
     {
-    case QEvent::Resize:
-      showPicture();
-      break;
+    case QEvent::Resize: showPicture(); break;
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-      press(buttonOf(static_cast<QMouseEvent*>(event)->button()));
-      return true;
-    case QEvent::MouseButtonRelease:
-      release(*static_cast<QMouseEvent*>(event));
-      return true;
+    case QEvent::MouseButtonDblClick: press(buttonOf(static_cast<QMouseEvent*>(event)->button())); return true;
+    case QEvent::MouseButtonRelease: release(*static_cast<QMouseEvent*>(event)); return true;
     case QEvent::KeyPress:
       if (const int key = static_cast<QKeyEvent*>(event)->key();
           m_picture.onClick && (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter))
@@ -136,8 +130,7 @@ private:
         return true;
       }
       break;
-    default:
-      break;
+    default: break;
     }
     return Link::eventFilter(watched, event);
   }

@@ -7,7 +7,6 @@
 #include <QSyntaxHighlighter>
 #include <QTextBlock>
 #include <QTextEdit>
-
 #include <vector>
 
 namespace tarvelin::ui
@@ -139,7 +138,8 @@ private:
     m_dirtyStart = waiting ? std::min(m_dirtyStart, start) : start;
     m_dirtyEnd = std::max(waiting ? m_dirtyEnd : 0, start + std::max<std::size_t>(count, 1));
     if (!waiting)
-      QMetaObject::invokeMethod(this, [this] { paintNow(); }, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          this, [this] { paintNow(); }, Qt::QueuedConnection);
   }
 
   void paintNow()

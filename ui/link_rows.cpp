@@ -6,7 +6,6 @@
 #include <QEvent>
 #include <QListWidget>
 
-
 namespace tarvelin::ui
 {
 namespace
@@ -63,19 +62,11 @@ private:
     const int row = static_cast<int>(change.first);
     switch (change.what)
     {
-    case Change::selection:
-      break;
-    case Change::row:
-      showRow(*m_list->item(row), row);
-      return;
-    case Change::rowAdded:
-      insert(row);
-      break;
-    case Change::rowRemoved:
-      delete m_list->takeItem(row);
-      break;
-    default:
-      fill();
+    case Change::selection: break;
+    case Change::row: showRow(*m_list->item(row), row); return;
+    case Change::rowAdded: insert(row); break;
+    case Change::rowRemoved: delete m_list->takeItem(row); break;
+    default: fill();
     }
     showIndex();
   }
@@ -151,19 +142,11 @@ private:
     switch (change.what)
     {
     case Change::selection:
-    case Change::text:
-      break;
-    case Change::row:
-      m_box->setItemText(row, textOf(m_rows, row));
-      break;
-    case Change::rowAdded:
-      m_box->insertItem(row, textOf(m_rows, row));
-      break;
-    case Change::rowRemoved:
-      m_box->removeItem(row);
-      break;
-    default:
-      fill();
+    case Change::text: break;
+    case Change::row: m_box->setItemText(row, textOf(m_rows, row)); break;
+    case Change::rowAdded: m_box->insertItem(row, textOf(m_rows, row)); break;
+    case Change::rowRemoved: m_box->removeItem(row); break;
+    default: fill();
     }
     if (m_box->count() == m_rows.count())
       m_box->setCurrentIndex(m_rows.index());

@@ -87,7 +87,8 @@ bool filterKeys(Text& text, QEvent& event, const std::function<void(const std::f
 {
   if (!text.onKeyUp)
     return false;
-  if (event.type() != QEvent::KeyRelease && event.type() != QEvent::KeyPress && event.type() != QEvent::ShortcutOverride)
+  if (event.type() != QEvent::KeyRelease && event.type() != QEvent::KeyPress &&
+      event.type() != QEvent::ShortcutOverride)
     return false;
   auto& key = static_cast<QKeyEvent&>(event);
   const int code = key.key();

@@ -6,7 +6,6 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QTreeWidget>
-
 #include <iterator>
 
 namespace tarvelin::ui
@@ -84,7 +83,8 @@ private:
     else if (!m_stale) // many nodes in a row are shown as one change
     {
       m_stale = true;
-      QMetaObject::invokeMethod(this, [this] { fieldChanged(m_nodes, {Change::everything}); }, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          this, [this] { fieldChanged(m_nodes, {Change::everything}); }, Qt::QueuedConnection);
     }
   }
 

@@ -15,7 +15,6 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
-
 #include <string>
 
 namespace

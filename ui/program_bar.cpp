@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLayout>
 #include <QScrollBar>
-
 #include <algorithm>
 
 namespace tarvelin::ui
@@ -20,8 +19,10 @@ constexpr int iconPlace = 36; ///< an icon of 32 pixels and the room around it
 } // namespace
 
 ProgramBar::ProgramBar(QWidget& window)
-    : m_window(window), m_frame(window.findChild<QWidget*>("Picture1")),
-      m_strip(window.findChild<QWidget*>("Picture2")), m_scroll(window.findChild<QScrollBar*>("HScroll1"))
+    : m_window(window),
+      m_frame(window.findChild<QWidget*>("Picture1")),
+      m_strip(window.findChild<QWidget*>("Picture2")),
+      m_scroll(window.findChild<QScrollBar*>("HScroll1"))
 {
   m_frame->layout()->removeWidget(m_strip); // it slides
   m_frame->installEventFilter(this);

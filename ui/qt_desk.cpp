@@ -28,14 +28,10 @@ QMessageBox::Icon iconOf(Icon icon)
 {
   switch (icon)
   {
-  case Icon::information:
-    return QMessageBox::Information;
-  case Icon::question:
-    return QMessageBox::Question;
-  case Icon::critical:
-    return QMessageBox::Critical;
-  case Icon::none:
-    break;
+  case Icon::information: return QMessageBox::Information;
+  case Icon::question: return QMessageBox::Question;
+  case Icon::critical: return QMessageBox::Critical;
+  case Icon::none: break;
   }
   return QMessageBox::NoIcon;
 }
@@ -66,10 +62,8 @@ bool isInput(QEvent::Type type)
   case QEvent::ContextMenu:
   case QEvent::TouchBegin:
   case QEvent::TabletPress:
-  case QEvent::Close:
-    return true;
-  default:
-    return false;
+  case QEvent::Close: return true;
+  default: return false;
   }
 }
 

@@ -17,8 +17,7 @@ public:
 
   void showModal(Form& form) override;
   Answer box(std::string_view text, Buttons buttons, Icon icon) override;
-  std::optional<std::string> prompt(std::string_view text, std::string_view title,
-                                    std::string_view suggested) override;
+  std::optional<std::string> prompt(std::string_view text, std::string_view title, std::string_view suggested) override;
   std::optional<Colour> chooseColour(Colour current) override;
   std::optional<Font> chooseFont(const Font& current) override;
   std::optional<std::string> chooseFile(std::string_view filter) override;

@@ -9,9 +9,9 @@ namespace tarvelin
 
 const char* kindName(Kind kind)
 {
-  constexpr const char* names[] = {"text",       "richtext",  "label",    "command",  "check",   "option", "list",
-                                   "combo",      "tree",      "picture",  "slider",   "filelist", "folderlist",
-                                   "drivelist",  "tabstrip",  "progress", "browser",  "dialog",  "menu",   "group"};
+  constexpr const char* names[] = {"text",     "richtext", "label",   "command", "check",    "option",     "list",
+                                   "combo",    "tree",     "picture", "slider",  "filelist", "folderlist", "drivelist",
+                                   "tabstrip", "progress", "browser", "dialog",  "menu",     "group"};
   return names[static_cast<std::size_t>(kind)];
 }
 

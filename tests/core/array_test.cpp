@@ -3,7 +3,6 @@
 #include "core/numbers.h"
 
 #include <gtest/gtest.h>
-
 #include <limits>
 #include <string>
 

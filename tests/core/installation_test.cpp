@@ -1,5 +1,4 @@
 #include "core/installation.h"
-
 #include "platform/paths.h"
 #include "tests/test_home.h"
 
@@ -26,10 +25,7 @@ protected:
 
   void write(const std::string& name, const std::string& bytes) { writeBytes(source / "Bfdata" / name, bytes); }
   std::string installed(const std::string& name) { return readBytes(target / "Bfdata" / name); }
-  void install()
-  {
-    installData(platform::toProgram(source.string()), platform::toProgram(target.string()));
-  }
+  void install() { installData(platform::toProgram(source.string()), platform::toProgram(target.string())); }
 
   test::Scratch scratch;
   fs::path source = scratch / "installed here";
@@ -94,8 +90,7 @@ TEST(ProgramFolder, IsTheUsersDataFolderWhereNoDataLieBesideTheProgram)
   const test::Scratch scratch;
   fs::copy_file(TARVELIN_HOST, scratch / "tarvelin-script");
   writeBytes(scratch / "s.lua", "start() quit()");
-  const test::Outcome outcome =
-      test::runProgram("./tarvelin-script s.lua", scratch.path(), scratch / "user");
+  const test::Outcome outcome = test::runProgram("./tarvelin-script s.lua", scratch.path(), scratch / "user");
   EXPECT_EQ(outcome.status, 0) << outcome.errors;
   EXPECT_TRUE(fs::exists(scratch / "user" / ".local" / "share" / "tarvelin" / "Tarvinfo.cfg"));
 }
@@ -106,8 +101,7 @@ TEST(ProgramFolder, IsTheProgramsOwnWhereDataLieBesideIt)
   fs::copy_file(TARVELIN_HOST, scratch / "tarvelin-script");
   fs::create_directory(scratch / "Bfdata");
   writeBytes(scratch / "s.lua", "start() quit()");
-  const test::Outcome outcome =
-      test::runProgram("./tarvelin-script s.lua", scratch.path(), scratch / "user");
+  const test::Outcome outcome = test::runProgram("./tarvelin-script s.lua", scratch.path(), scratch / "user");
   EXPECT_EQ(outcome.status, 0) << outcome.errors;
   EXPECT_TRUE(fs::exists(scratch / "Tarvinfo.cfg"));
 }

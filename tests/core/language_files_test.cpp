@@ -364,9 +364,9 @@ TEST_F(LanguageFiles, BaseNamesOfClassesAreOneWord)
     for (const int name : {57, 59, 61})
       EXPECT_EQ(pack.line(name).find(' '), std::string::npos) << pack.at(name);
     const std::string& profile = pack.line(88); // the field that it goes to takes Latin letters alone
-    EXPECT_TRUE(std::all_of(profile.begin(), profile.end(), [](char c) {
-      return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-    })) << pack.at(88);
+    EXPECT_TRUE(std::all_of(profile.begin(), profile.end(),
+                            [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }))
+        << pack.at(88);
   }
 }
 

@@ -1,5 +1,4 @@
 #include "core/strings.h"
-
 #include "platform/failure.h"
 
 #include <gtest/gtest.h>

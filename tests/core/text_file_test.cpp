@@ -1,11 +1,9 @@
-#include "core/text_file.h"
-
 #include "core/attempt.h"
+#include "core/text_file.h"
 #include "platform/paths.h"
 #include "tests/test_home.h"
 
 #include <gtest/gtest.h>
-
 #include <vector>
 
 using namespace tarvelin;

@@ -97,19 +97,20 @@ TEST_F(CommandLine, TheArgumentsAreInArg)
 TEST_F(CommandLine, TheScriptMayComeFromStandardInput)
 {
   writeBytes(scratch / "piped.lua", "print('piped', arg[1])");
-  const Outcome outcome = runProgram("sh -c " + quoted(quoted(TARVELIN_HOST) + " --home " + quoted(home.string()) +
-                                                       " - there <piped.lua"),
-                                     scratch.path(), scratch / "user");
+  const Outcome outcome =
+      runProgram("sh -c " + quoted(quoted(TARVELIN_HOST) + " --home " + quoted(home.string()) + " - there <piped.lua"),
+                 scratch.path(), scratch / "user");
   EXPECT_EQ(outcome.status, 0) << outcome.errors;
   EXPECT_EQ(outcome.output, "piped\tthere\n");
 }
 
 TEST_F(CommandLine, TheWholeStandardLibraryIsThere)
 {
-  EXPECT_EQ(play("for _, n in ipairs{'string', 'table', 'math', 'io', 'os', 'coroutine', 'utf8', 'debug', 'package'} do "
-                 "assert(type(_G[n]) == 'table', n) end print(utf8.len('žluť'))")
-                .output,
-            "4\n");
+  EXPECT_EQ(
+      play("for _, n in ipairs{'string', 'table', 'math', 'io', 'os', 'coroutine', 'utf8', 'debug', 'package'} do "
+           "assert(type(_G[n]) == 'table', n) end print(utf8.len('žluť'))")
+          .output,
+      "4\n");
 }
 
 TEST_F(CommandLine, ARelativeHomeIsFound)

@@ -8,9 +8,8 @@
 #include "mission/sqm_reader.h"
 #include "platform/paths.h"
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 

@@ -1,9 +1,7 @@
+#include "core/strings.h"
 #include "mission/keyword_scanner.h"
 
-#include "core/strings.h"
-
 #include <gtest/gtest.h>
-
 #include <random>
 #include <string>
 #include <vector>
@@ -13,8 +11,9 @@ using namespace tarvelin;
 namespace
 {
 
-constexpr std::string_view keywords[] = {"DAY", "MONTH", "CLASS MISSION", "CLASS MARKERS", "ADDONS[]", "ADDONS[]={}",
-                                         "NAME", "FILLNAME", "{", "}", "AA", "AAA", "ABAB"};
+constexpr std::string_view keywords[] = {
+    "DAY", "MONTH", "CLASS MISSION", "CLASS MARKERS", "ADDONS[]", "ADDONS[]={}", "NAME", "FILLNAME", "{",
+    "}",   "AA",    "AAA",           "ABAB"};
 
 std::uint64_t found(const KeywordScanner& scanner, std::string_view line)
 {
@@ -68,7 +67,8 @@ TEST(KeywordScanner, FindsWhatASearchForEachKeywordFinds)
   {
     std::string line;
     for (std::size_t i = 0; i < 24; ++i)
-      line += random() % 6 == 0 ? std::string(keywords[random() % std::size(keywords)]) : std::string(1, letters[random() % letters.size()]);
+      line += random() % 6 == 0 ? std::string(keywords[random() % std::size(keywords)])
+                                : std::string(1, letters[random() % letters.size()]);
     std::uint64_t want = 0;
     for (std::size_t bit = 0; bit < std::size(keywords); ++bit)
       if (upper(line).find(keywords[bit]) != std::string::npos)

@@ -7,9 +7,7 @@
 #include "ui/form_looks.h"
 
 #include <QtTest>
-
 #include <QtWidgets>
-
 #include <map>
 
 using namespace tarvelin;
@@ -178,45 +176,20 @@ void FormsTest::changesArrive()
     switch (field->kind())
     {
     case Kind::text:
-    case Kind::richtext:
-      checkText(static_cast<Text&>(*field), bound);
-      break;
+    case Kind::richtext: checkText(static_cast<Text&>(*field), bound); break;
     case Kind::label:
-    case Kind::group:
-      checkCaptioned(*field, bound);
-      break;
-    case Kind::check:
-      checkCheck(static_cast<Check&>(*field), bound);
-      break;
-    case Kind::option:
-      checkOption(static_cast<Option&>(*field), bound);
-      break;
-    case Kind::command:
-      checkCommand(static_cast<Command&>(*field), bound);
-      break;
-    case Kind::list:
-      checkList(static_cast<List&>(*field), bound);
-      break;
-    case Kind::combo:
-      checkCombo(static_cast<Combo&>(*field), bound);
-      break;
-    case Kind::tree:
-      checkTree(static_cast<Tree&>(*field), bound);
-      break;
-    case Kind::slider:
-      checkSlider(static_cast<Slider&>(*field), bound);
-      break;
-    case Kind::progress:
-      checkProgress(static_cast<Progress&>(*field), bound);
-      break;
-    case Kind::tabstrip:
-      checkTabs(static_cast<TabStrip&>(*field), bound);
-      break;
-    case Kind::menu:
-      checkMenu(static_cast<Menu&>(*field), bound);
-      continue;
-    default:
-      break;
+    case Kind::group: checkCaptioned(*field, bound); break;
+    case Kind::check: checkCheck(static_cast<Check&>(*field), bound); break;
+    case Kind::option: checkOption(static_cast<Option&>(*field), bound); break;
+    case Kind::command: checkCommand(static_cast<Command&>(*field), bound); break;
+    case Kind::list: checkList(static_cast<List&>(*field), bound); break;
+    case Kind::combo: checkCombo(static_cast<Combo&>(*field), bound); break;
+    case Kind::tree: checkTree(static_cast<Tree&>(*field), bound); break;
+    case Kind::slider: checkSlider(static_cast<Slider&>(*field), bound); break;
+    case Kind::progress: checkProgress(static_cast<Progress&>(*field), bound); break;
+    case Kind::tabstrip: checkTabs(static_cast<TabStrip&>(*field), bound); break;
+    case Kind::menu: checkMenu(static_cast<Menu&>(*field), bound); continue;
+    default: break;
     }
     checkStates(*field, bound);
     QVERIFY2(!QTest::currentTestFailed(), field->fullName().c_str());

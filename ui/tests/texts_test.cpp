@@ -8,7 +8,6 @@
 #include "ui/text_positions.h"
 
 #include <QtTest>
-
 #include <QtWidgets>
 
 using namespace tarvelin;
@@ -307,7 +306,8 @@ void TextsTest::stylesArePainted()
   Page page;
   QTextEdit edit;
   const auto link = ui::linkRichText(page.rich, &edit);
-  page.rich.setStyled("? alive\r\nhint \"x\"", {{0, {0x0000FF, true, false}}, {1, {}}, {9, {0xC00000, false, true}}, {13, {}}});
+  page.rich.setStyled("? alive\r\nhint \"x\"",
+                      {{0, {0x0000FF, true, false}}, {1, {}}, {9, {0xC00000, false, true}}, {13, {}}});
   QCoreApplication::processEvents();
   QCOMPARE(edit.toPlainText(), QString("? alive\nhint \"x\""));
   QCOMPARE(painted(edit, 0), QString("0-1:#ff0000b"));

@@ -15,7 +15,6 @@
 #include "ui/qt_desk.h"
 
 #include <QtTest>
-
 #include <QtWidgets>
 
 using namespace tarvelin;
@@ -158,8 +157,7 @@ void WindowsTest::boxIsHarmless()
     whenDialogOpens([key](QWidget& dialog) { QTest::keyClick(&dialog, key); });
     QCOMPARE(desk.box("Delete all?", Buttons::yesNo, Icon::question), Answer::no);
   }
-  whenDialogOpens([](QWidget& dialog)
-                  { qobject_cast<QMessageBox*>(&dialog)->button(QMessageBox::Yes)->click(); });
+  whenDialogOpens([](QWidget& dialog) { qobject_cast<QMessageBox*>(&dialog)->button(QMessageBox::Yes)->click(); });
   QCOMPARE(desk.box("Delete all?", Buttons::yesNo, Icon::question), Answer::yes);
   whenDialogOpens([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
   QCOMPARE(desk.box("Done", Buttons::ok, Icon::information), Answer::ok);
@@ -196,9 +194,9 @@ void WindowsTest::nothingIsEnteredTwice()
     auto* const button = window->findChild<QPushButton*>(name);
     const QPointF place(5, 5);
     for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
-      QCoreApplication::postEvent(button, new QMouseEvent(type, place, button->mapToGlobal(place), Qt::LeftButton,
-                                                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
-                                                          Qt::NoModifier));
+      QCoreApplication::postEvent(
+          button, new QMouseEvent(type, place, button->mapToGlobal(place), Qt::LeftButton,
+                                  type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier));
   };
   press(windows.of(frmmain).window(), "cmdend");
   press(windows.of(Form1).window(), "Command1");

@@ -6,7 +6,6 @@
 #include "tests/test_home.h"
 
 #include <gtest/gtest.h>
-
 #include <string>
 
 using namespace tarvelin;

@@ -233,57 +233,67 @@ TEST_F(FieldTable, FieldsExistInTheirSpellingAndKind)
 
 TEST_F(FieldTable, FieldsStandAtTheirDefaults)
 {
-  eachField([](const TableRow& row, const Field& field) {
-    if (row.hasDefault())
-    {
-      EXPECT_EQ(defaultOf(field), row.expected()) << row.where();
-    }
-  });
+  eachField(
+      [](const TableRow& row, const Field& field)
+      {
+        if (row.hasDefault())
+        {
+          EXPECT_EQ(defaultOf(field), row.expected()) << row.where();
+        }
+      });
 }
 
 TEST_F(FieldTable, FieldsAreEnabledAndVisibleAsTheTableSays)
 {
-  eachField([](const TableRow& row, const Field& field) {
-    EXPECT_EQ(field.enabled(), !row.is("disabled")) << row.where();
-    EXPECT_EQ(field.visible(), !row.is("hidden")) << row.where();
-  });
+  eachField(
+      [](const TableRow& row, const Field& field)
+      {
+        EXPECT_EQ(field.enabled(), !row.is("disabled")) << row.where();
+        EXPECT_EQ(field.visible(), !row.is("hidden")) << row.where();
+      });
 }
 
 TEST_F(FieldTable, ChecksStandAsTheTableSays)
 {
-  eachField([](const TableRow& row, const Field& field) {
-    if (!row.is("checked") && !row.is("unchecked"))
-      return;
-    const auto* check = dynamic_cast<const Check*>(&field);
-    ASSERT_NE(check, nullptr) << row.where();
-    EXPECT_EQ(check->checked(), row.is("checked")) << row.where();
-  });
+  eachField(
+      [](const TableRow& row, const Field& field)
+      {
+        if (!row.is("checked") && !row.is("unchecked"))
+          return;
+        const auto* check = dynamic_cast<const Check*>(&field);
+        ASSERT_NE(check, nullptr) << row.where();
+        EXPECT_EQ(check->checked(), row.is("checked")) << row.where();
+      });
 }
 
 TEST_F(FieldTable, ListsAreEmptyAndOfTheirStyle)
 {
-  eachField([](const TableRow& row, const Field& field) {
-    const auto* rows = dynamic_cast<const Rows*>(&field);
-    if (rows == nullptr)
-      return;
-    EXPECT_EQ(rows->count(), 0) << row.where();
-    EXPECT_EQ(rows->index(), -1) << row.where();
-    EXPECT_EQ(rows->sorted(), row.is("sorted")) << row.where();
-    if (const auto* list = dynamic_cast<const List*>(rows))
-    {
-      EXPECT_EQ(list->checkMarks(), row.is("marks")) << row.where();
-    }
-  });
+  eachField(
+      [](const TableRow& row, const Field& field)
+      {
+        const auto* rows = dynamic_cast<const Rows*>(&field);
+        if (rows == nullptr)
+          return;
+        EXPECT_EQ(rows->count(), 0) << row.where();
+        EXPECT_EQ(rows->index(), -1) << row.where();
+        EXPECT_EQ(rows->sorted(), row.is("sorted")) << row.where();
+        if (const auto* list = dynamic_cast<const List*>(rows))
+        {
+          EXPECT_EQ(list->checkMarks(), row.is("marks")) << row.where();
+        }
+      });
 }
 
 TEST_F(FieldTable, SeparatorsAreDashes)
 {
-  eachField([](const TableRow& row, const Field& field) {
-    if (field.kind() == Kind::menu)
-    {
-      EXPECT_EQ(field.caption() == "-", row.is("separator")) << row.where();
-    }
-  });
+  eachField(
+      [](const TableRow& row, const Field& field)
+      {
+        if (field.kind() == Kind::menu)
+        {
+          EXPECT_EQ(field.caption() == "-", row.is("separator")) << row.where();
+        }
+      });
 }
 
 TEST_F(FieldTable, NoOtherFieldExists)

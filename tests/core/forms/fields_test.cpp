@@ -5,7 +5,6 @@
 #include "core/forms/kinds.h"
 
 #include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
 

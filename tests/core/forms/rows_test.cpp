@@ -2,7 +2,6 @@
 #include "core/forms/kinds.h"
 
 #include <gtest/gtest.h>
-
 #include <string>
 
 using namespace tarvelin;

@@ -2,7 +2,6 @@
 #include "core/strings.h"
 
 #include <gtest/gtest.h>
-
 #include <random>
 #include <string>
 #include <vector>
@@ -224,7 +223,8 @@ TEST(TextIndex, FindsTheSameBytesAsAWalkFromTheStart)
   {
     const std::size_t size = length(text);
     const std::size_t start = std::uniform_int_distribution<std::size_t>(0, size)(random);
-    const std::size_t removed = std::uniform_int_distribution<std::size_t>(0, std::min<std::size_t>(size - start, 400))(random);
+    const std::size_t removed =
+        std::uniform_int_distribution<std::size_t>(0, std::min<std::size_t>(size - start, 400))(random);
     std::string added;
     const std::size_t count = std::uniform_int_distribution<std::size_t>(0, 600)(random);
     for (std::size_t i = 0; i < count; ++i)
