@@ -13,11 +13,11 @@ struct Procedures
   using Plain = std::function<void()>;
   using OfPath = std::function<void(const std::string&)>;
 
-  Plain readGame = [] {};                                       ///< the game's folder and drive
-  OfPath NactiPrikazy = [](const std::string&) {};              ///< commands.dat
-  OfPath NactiDruhePrikazy = [](const std::string&) {};         ///< edit.dat
-  OfPath NactiAddony = [](const std::string&) {};               ///< addons.dat
-  OfPath LoadPrograms = [](const std::string&) {};              ///< programs.dat
+  Plain readGame = [] {};                               ///< the game's folder and drive
+  OfPath NactiPrikazy = [](const std::string&) {};      ///< commands.dat
+  OfPath NactiDruhePrikazy = [](const std::string&) {}; ///< edit.dat
+  OfPath NactiAddony = [](const std::string&) {};       ///< addons.dat
+  OfPath LoadPrograms = [](const std::string&) {};      ///< programs.dat
   Plain Akce = [] {};
   Plain Jazyky2 = [] {};
   Plain brejle = [] {};

@@ -13,8 +13,8 @@ namespace tarvelin
 struct Shared
 {
   // The open mission
-  std::string SouborMise; ///< full path of the open mission.sqm, empty when none is open
-  std::string CestaMise; ///< its folder, with a backslash at the end
+  std::string SouborMise;   ///< full path of the open mission.sqm, empty when none is open
+  std::string CestaMise;    ///< its folder, with a backslash at the end
   std::string BrifingJmeno; ///< raw values of the mission's file
   std::string BrifingPopis;
   std::string Spojenci;
@@ -35,13 +35,13 @@ struct Shared
   std::string JazykBrifing; ///< language variant: empty, "All" or a language
   std::string JazykOverview;
   std::string CestaObrazku; ///< source of the overview picture
-  std::string CilObrazku; ///< its place in the mission folder; empty for no picture
+  std::string CilObrazku;   ///< its place in the mission folder; empty for no picture
   std::string CestaSkriptu; ///< script in the editor; empty for a new one
-  Flag PovolBarvy = 0; ///< off while the program itself changes the script
+  Flag PovolBarvy = 0;      ///< off while the program itself changes the script
 
   // The game and the machine
-  std::string CestaHry; ///< folder of the game
-  std::string MechanikaCD; ///< its CD drive
+  std::string CestaHry;           ///< folder of the game
+  std::string MechanikaCD;        ///< its CD drive
   std::int16_t RezimOtevreni = 0; ///< for whom the shared pickers work
   std::string IkonaAsociace;
   std::string SlozkaUzivatele; ///< folder of the chosen player in the game
@@ -87,7 +87,7 @@ struct Shared
   std::int16_t PocetHudebKampane = 0;
   std::int16_t PocetZvukuKampane = 0;
   std::int16_t PocetTextuKampane = 0;
-  std::int16_t RezimNacitani = 0; ///< for which list the sound intake works
+  std::int16_t RezimNacitani = 0;  ///< for which list the sound intake works
   Array<std::string> CestySouboru; ///< folders of the files in the sound intake
   std::int16_t PocetSouboru = 0;
 
@@ -137,8 +137,8 @@ struct Shared
   std::int16_t PocetOstrovu = 0;
   Array<ZaznamProgramu> Programy;
   std::int16_t PocetProgramu = -1; ///< index of the last program, -1 for none
-  Array<std::string> Texty; ///< 122 texts of the language pack, from 1
-  Array<std::string> Hlasky; ///< 24 messages of the language pack, from 1
+  Array<std::string> Texty;        ///< 122 texts of the language pack, from 1
+  Array<std::string> Hlasky;       ///< 24 messages of the language pack, from 1
   ZaznamNastaveni Nastaveni;
 
   Shared()

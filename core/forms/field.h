@@ -50,13 +50,13 @@ enum class Change
   selection, ///< caret and selected length of a text; highlighted row of a list, combo, tree, file list
   style,     ///< colours and faces of a rich text; first, added: the range
   font,
-  rows,      ///< the rows as a whole (list, combo, tree, file and folder lists)
-  row,       ///< text, tag or mark of row `first`
-  rowAdded,  ///< a row came in at `first`
+  rows,     ///< the rows as a whole (list, combo, tree, file and folder lists)
+  row,      ///< text, tag or mark of row `first`
+  rowAdded, ///< a row came in at `first`
   rowRemoved,
-  value,     ///< check, option, slider, progress, tab strip, drive
-  range,     ///< limits of a slider or a progress; place of a picture
-  path,      ///< folder, pattern, picture or address
+  value, ///< check, option, slider, progress, tab strip, drive
+  range, ///< limits of a slider or a progress; place of a picture
+  path,  ///< folder, pattern, picture or address
   colour,
   everything, ///< a bulk change: read the field anew
 };

@@ -24,8 +24,8 @@ struct FurtherSettingsForm : Form
       field->enable(false);
   }
 
-  FormValue<bool> PridavaPolozku{this, "PridavaPolozku"};           // while a row is being added its list keeps still
-  FormValue<std::int16_t> PocetZvukuTridy{this, "PocetZvukuTridy"}; // sounds of the class on show
+  FormValue<bool> PridavaPolozku{this, "PridavaPolozku"};             // while a row is being added its list keeps still
+  FormValue<std::int16_t> PocetZvukuTridy{this, "PocetZvukuTridy"};   // sounds of the class on show
   FormValue<std::int16_t> PocetPrvkuTitulu{this, "PocetPrvkuTitulu"}; // controls of the title on show
 
   TabStrip SSTab1{this, "SSTab1", {"Sfx", "Zvuky prostředí", "Tituly", "Stringtable", "Addony", "Readme"}};

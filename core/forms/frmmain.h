@@ -15,7 +15,8 @@ struct MainForm : Form
                                                       &cmdodebratzvuk, &cmdodebrathudbu, &cmdadd, &cmdel, &txtzvuk})
       field->enable(false);
     Text1.each([](Text& field, int) { field.enable(false); });
-    for (Field* field : std::initializer_list<Field*>{&strany, &strany3, &Picture1, &Picture2, &HScroll1, &Frame6, &Frame7})
+    for (Field* field :
+         std::initializer_list<Field*>{&strany, &strany3, &Picture1, &Picture2, &HScroll1, &Frame6, &Frame7})
       field->show(false);
   }
 
