@@ -378,9 +378,21 @@ void writeFile(std::string_view path, std::string_view bytes)
     throw Failure(Fault::pathAccess);
   if (isReadOnly(status))
     throw Failure(Fault::permissionDenied);
-  if (S_ISREG(status.st_mode) && restarted([&] { return ftruncate(file.get(), 0); }) != 0)
+  // Written over and cut behind: to empty a file first costs some file systems a millisecond.
+  const auto cutHere = [&] { return restarted([&] { return ftruncate(file.get(), lseek(file.get(), 0, SEEK_CUR)); }); };
+  const bool cuts = S_ISREG(status.st_mode) && static_cast<std::size_t>(status.st_size) > bytes.size();
+  try
+  {
+    writeAll(file, bytes);
+  }
+  catch (const Failure&)
+  {
+    if (S_ISREG(status.st_mode))
+      cutHere(); // what could be written, and nothing of the older file behind it
+    throw;
+  }
+  if (cuts && cutHere() != 0)
     throw failureOf(errno);
-  writeAll(file, bytes);
   closeWritten(file);
 }
 
