@@ -218,6 +218,20 @@ TEST(Files, AFullDiskIsFailure61)
   EXPECT_EQ(failureOf([&] { writeFile(scratch.path("small"), manyBytes(900)); }), 0);
 }
 
+TEST(Files, WritingOverALongerFileLeavesNothingOfIt)
+{
+  const Scratch scratch;
+  scratch.put("file", std::string(9000, 'o'));
+  writeFile(scratch.path("file"), "new");
+  EXPECT_EQ(scratch.bytes("file"), "new");
+  writeFile(scratch.path("file"), "");
+  EXPECT_EQ(scratch.bytes("file"), "");
+  scratch.put("file", std::string(9000, 'o'));
+  const SmallDisk disk(1000);
+  EXPECT_EQ(failureOf([&] { writeFile(scratch.path("file"), std::string(5000, 'n')); }), 61);
+  EXPECT_EQ(scratch.bytes("file"), std::string(1000, 'n')); // what could be written, no older bytes behind it
+}
+
 TEST(Files, FilesThatTellNoSizeAreReadToTheEnd)
 {
   EXPECT_TRUE(readFile("\\proc\\self\\status").starts_with("Name:"));
