@@ -4,7 +4,9 @@
 #include "core/forms/frmmain.h"
 #include "ui/action.h"
 #include "ui/binder.h"
+#include "ui/default_button.h"
 #include "ui/form_looks.h"
+#include "ui/places.h"
 #include "ui/program_bar.h"
 
 #include <QApplication>
@@ -12,10 +14,10 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QKeyEvent>
-#include <QPushButton>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
+#include <iterator>
 
 namespace tarvelin::ui
 {
@@ -36,15 +38,6 @@ QWidget* mainWindow()
     if (window->isVisible() && window->objectName() == QString::fromStdString(frmmain.name()))
       return window;
   return nullptr;
-}
-
-/// Enter presses the button that has the focus, or the one that the look makes the default; no other button ever is.
-void tameButtons(QWidget& window)
-{
-  const auto buttons = window.findChildren<QPushButton*>();
-  if (std::ranges::none_of(buttons, [](const QPushButton* button) { return button->isDefault(); }))
-    for (QPushButton* const button : buttons)
-      button->setAutoDefault(false);
 }
 
 } // namespace
@@ -75,6 +68,7 @@ void FormWindow::make()
   m_window->installEventFilter(this);
   tameButtons(*m_window);
   m_links = bindForm(m_form, *m_window);
+  std::ranges::move(bindPlaces(m_form, *m_window), std::back_inserter(m_links));
   if (&m_form == &frmmain)
   {
     m_window->setFixedSize(mainWidth * m_window->logicalDpiX() / twipsPerInch,

@@ -2,12 +2,12 @@
 #include "core/attempt.h"
 #include "core/strings.h"
 #include "platform/files.h"
+#include "ui/default_button.h"
 #include "ui/item_mouse.h"
 #include "ui/links.h"
 
 #include <QComboBox>
 #include <QListWidget>
-#include <QPushButton>
 #include <QStyle>
 #include <QTreeWidget>
 #include <algorithm>
@@ -47,7 +47,8 @@ public:
               if (!updating() && !m_mouse.down() && !m_list->selectedItems().isEmpty())
                 choose(m_list->selectedItems().first()->text());
             });
-    connect(list, &QListWidget::itemDoubleClicked, this, [this] { confirm(); });
+    connect(list, &QListWidget::itemDoubleClicked, this,
+            [this] { pressDefault(*m_list); }); // a double click is OK, too
     begin();
   }
 
@@ -57,14 +58,6 @@ private:
     const std::string file = name.toStdString();
     if (m_files.has(file)) // it may have gone meanwhile
       user([this, file] { m_files.userSelect(file); });
-  }
-
-  /// A double click is the window's default button, too.
-  void confirm()
-  {
-    for (QPushButton* const button : m_list->window()->findChildren<QPushButton*>())
-      if (button->isDefault() && button->isEnabled() && button->isVisible())
-        return button->click();
   }
 
   void update(const FieldChange& change) override

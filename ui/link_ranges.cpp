@@ -3,6 +3,8 @@
 
 #include <QAbstractSlider>
 #include <QProgressBar>
+#include <QProxyStyle>
+#include <QTabBar>
 #include <QTabWidget>
 
 namespace tarvelin::ui
@@ -47,11 +49,28 @@ private:
   QProgressBar* m_bar;
 };
 
+/// The tabs of a long strip stand closer, so that all of them are seen.
+class CloseTabs : public QProxyStyle
+{
+public:
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
+  {
+    return metric == PM_TabBarTabHSpace ? closeSpace : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+
+private:
+  static constexpr int closeSpace = 12;
+};
+
+constexpr int longStrip = 8; ///< tabs
+
 class TabsLink : public Link
 {
 public:
   TabsLink(TabStrip& field, QTabWidget* tabs) : Link(field, tabs), m_strip(field), m_tabs(tabs)
   {
+    if (tabs->count() >= longStrip)
+      tabs->tabBar()->setStyle(&m_style);
     connect(tabs, &QTabWidget::currentChanged, this, [this](int tab) { user([this, tab] { m_strip.setTab(tab); }); });
     begin();
   }
@@ -66,6 +85,7 @@ private:
 
   TabStrip& m_strip;
   QTabWidget* m_tabs;
+  CloseTabs m_style;
 };
 
 } // namespace

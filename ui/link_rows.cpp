@@ -54,7 +54,12 @@ private:
     if (updating() || !m_rows.checkMarks() || row >= m_rows.count() || m_rows.marked(row) == on)
       return;
     m_mouse.spendClick(); // the click on a mark is told with the mark
-    user([this, row, on] { m_rows.userMark(row, on); });
+    user(
+        [this, row, on]
+        {
+          m_rows.userMark(row, on);
+          m_rows.userPress(MouseButton::left); // it was pressed on the row that is highlighted now
+        });
   }
 
   void update(const FieldChange& change) override
