@@ -127,7 +127,7 @@ void selectSize(Combo& sizes, int number)
   sizes.select(row);
 }
 
-/// The number counts only when something stands behind it on its line.
+/// The number behind the sign, with or without quotes and blanks; the first other character ends it.
 void OverviewReading::size(std::string_view upperLine, const SizeAttribute& attribute) const
 {
   const std::string word(attribute.word);
@@ -139,11 +139,9 @@ void OverviewReading::size(std::string_view upperLine, const SizeAttribute& attr
   for (const char c : upperLine.substr(upperLine.find('=', at) + 1))
     if (c >= '0' && c <= '9')
       number = std::min(10 * number + (c - '0'), tooLarge);
-    else if (c != '"')
-    {
-      m_steps([&] { selectSize(attribute.sizes, number); });
-      return;
-    }
+    else if (c != '"' && c != ' ')
+      break;
+  m_steps([&] { selectSize(attribute.sizes, number); });
 }
 
 } // namespace
