@@ -6,6 +6,7 @@
 #include "core/logged_steps.h"
 #include "core/procedures.h"
 #include "core/program.h"
+#include "core/run_log.h"
 #include "core/shared.h"
 #include "core/strings.h"
 #include "platform/files.h"
@@ -210,7 +211,7 @@ LoggedSteps fileSteps(std::string what, std::string path)
 {
   return LoggedSteps(
       [what = std::move(what), path = std::move(path)](const Failure& failure)
-      { return what + path + ", " + std::to_string(failure.number) + ", " + failure.description + std::string(crlf); });
+      { return what + path + ", " + failureText(failure) + std::string(crlf); });
 }
 
 void cmdsaveaddons_Click()
@@ -254,6 +255,8 @@ void NactiAddony(const std::string& path)
         {
           ZaznamZbrane weapon;
           ZaznamZbrane::members(weapon, [&](std::string_view, auto& value) { file.get(value); });
+          if (file.cut())
+            throw Failure(Fault::pastEnd);
           if (weapon.Jmeno.empty() || weapon.Titulek.empty())
             return; // the next one takes its place
           shared.Zbrane.redimPreserve(last);
