@@ -24,9 +24,18 @@ void frmnactizvuky_Load()
   startPickerIn(folder.empty() ? shared.CestaMise : folder, frmnactizvuky.Drive1, frmnactizvuky.Dir1);
 }
 
+/// The title names the kind of sounds, when the language pack has a word for it.
+void showTitle()
+{
+  const int kind = (shared.RezimNacitani - 1) % 3; // radio messages, sounds, music; the campaign's follow the mission's
+  if (const std::string& title = Texty(67 + kind); !title.empty())
+    frmnactizvuky.setCaption(title);
+}
+
 /// The files of the last showing are offered again, but only for the same list.
 void frmnactizvuky_Activate()
 {
+  attempt(showTitle);
   if (frmnactizvuky.PosledniRezim == shared.RezimNacitani)
     return;
   shared.PocetSouboru = 0;
@@ -71,10 +80,7 @@ void fillOwn(ZaznamRadia& record, const std::string& n)
   record.TextCs = Texty(63) + n;
 }
 
-void fillOwn(ZaznamZvuku& record, const std::string&)
-{
-  record.Titulky.reset();
-}
+void fillOwn(ZaznamZvuku&, const std::string&) {}
 
 void fillOwn(ZaznamHudby&, const std::string&) {}
 

@@ -187,7 +187,7 @@ void cmdadd_Click(const SoundPanel& panel)
 /// Unprotected on the campaign's form alone.
 void cmdel_Click(const SoundPanel& panel)
 {
-  const auto drop = [&] { highlighted(panel.sounds).Titulky.reset(); };
+  const auto drop = [&] { highlighted(panel.sounds).Titulky.erase(); };
   if (panel.ofCampaign)
     drop();
   else

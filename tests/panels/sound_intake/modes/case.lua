@@ -10,6 +10,7 @@ local modes = {
   {5, frmcamp5, "cmdnacistzvuk", "cmdodebratzvuk", "seznamzvuku", "ZvukyKampane", "PocetZvukuKampane", "T59", "T60", "txtjmenozvuku", "txtnazev", "txtzvukhlasitost", "txtzvukhloubka"},
   {6, frmcamp5, "cdmnactihudbu", "cmdodebrathudbu", "seznamhudby", "HudbyKampane", "PocetHudebKampane", "T61", "T62", "txtjmenohudby", "txthudbanazev", "txthudbahlasitost", "txthudbahloubka"},
 }
+equal(frmnactizvuky.caption, "Načíst soubor pro rádio...", "title before the first use")
 for _, m in ipairs(modes) do
   local mode, form, load, remove, list = m[1], m[2], m[2][m[3]], m[2][m[4]], m[2][m[5]]
   local store, count = m[6], m[7]
@@ -21,8 +22,8 @@ for _, m in ipairs(modes) do
     shown = intake.modal
     equal(shared.RezimNacitani, mode, named("RezimNacitani"))
     equal(remove.enabled, false, named("removing is off until the intake was there"))
-    equal(intake.caption, "Načíst soubor pro rádio...", named("the title is the same in all modes"))
-    equal(intake.File1.pattern, "*.ogg*", named("the filter too"))
+    equal(intake.caption, "T" .. 67 + (mode - 1) % 3, named("the title names the kind"))
+    equal(intake.File1.pattern, "*.ogg*", named("the filter is the same in all modes"))
     equal(#intake.seznamsouboru, 0, named("another mode starts with an empty list"))
     equal(shared.PocetSouboru, 0, named("and no paths"))
     intake.Dir1.path = path(source)
@@ -58,7 +59,7 @@ for _, m in ipairs(modes) do
       equal(record.TextCs, "T63" .. n, named("TextCs"))
       for _, text in ipairs{"TextEn", "TextDe", "TextFr", "TextEs", "TextIt"} do equal(record[text], "", named(text)) end
     elseif mode % 3 == 2 then
-      equal(record.Titulky.bound, 0, named("no subtitles"))
+      equal(record.Titulky.bound, -1, named("no subtitles"))
     end
   end
   equal(form[m[10]].text, m[8] .. "2", named("the box shows the last name"))
