@@ -5,7 +5,6 @@
 #include "core/forms/frmload.h"
 #include "core/forms/frmmain.h"
 #include "core/forms/frmopen2.h"
-#include "core/forms/frmsettings.h"
 #include "core/messages.h"
 #include "core/picker.h"
 #include "core/program.h"
@@ -44,9 +43,18 @@ struct PickerMode
 constexpr PickerMode modes[] = {
     {2, 0, "*.wav*", "oggenc.exe"},  {3, 1, "*.wav*", "wavetolip.exe"},
     {choosesFolder, 2, "", ""},      {5, 98, "*.wss*", "wssdec.exe"},
-    {6, 99, "*.wav*", "wsscod.exe"}, {choosesProgram, 100, "*.exe*;*.bat*;*.com*", ""},
+    {6, 99, "*.wav*", "wsscod.exe"}, {choosesProgram, 100, "*.exe;*.bat;*.com*", ""},
     {8, unchanged, "*.ogg*", ""},
 };
+
+/// The field that a program is picked for.
+Text* programField = nullptr;
+
+void fillProgramField(const std::string& path)
+{
+  if (shared.RezimOtevreni == choosesProgram && programField)
+    programField->set(path);
+}
 
 const PickerMode* currentMode()
 {
@@ -71,6 +79,7 @@ void frmopen2_Activate()
 {
   if (const PickerMode* const mode = currentMode())
   {
+    frmopen2.File1.offerPrograms(mode->mode == choosesProgram);
     if (mode->title != unchanged)
       attempt([&] { frmopen2.setCaption(Texty(mode->title)); });
     if (!mode->filter.empty())
@@ -86,8 +95,7 @@ void File1_Click()
 {
   frmopen2.Slozka = frmopen2.File1.path();
   frmopen2.Soubor = frmopen2.File1.selected();
-  if (shared.RezimOtevreni == choosesProgram)
-    frmsettings.Text1.set(frmopen2.Slozka.value + "\\" + frmopen2.Soubor.value);
+  fillProgramField(chosenFile(frmopen2.File1));
 }
 
 void Command1_Click()
@@ -95,8 +103,7 @@ void Command1_Click()
   frmopen2.Soubor = "";
   frmopen2.Slozka = "";
   frmopen2.hide();
-  if (shared.RezimOtevreni == choosesProgram)
-    frmsettings.Text1.set("");
+  fillProgramField("");
 }
 
 void runMode()
@@ -158,6 +165,14 @@ void SpustAkci(const std::string& program)
   attempt([&] { platform::setCurrentFolder(folder); });
   // the name as it stands: a blank in it parts it into several arguments
   attempt([&] { desk().launch(program, file, folder); });
+}
+
+void chooseProgram(Text& box)
+{
+  shared.RezimOtevreni = choosesProgram;
+  programField = &box;
+  attempt([] { frmopen2.showModal(); });
+  programField = nullptr;
 }
 
 void attachSoundTools()

@@ -13,6 +13,10 @@ namespace tarvelin::platform
 /// paths, when that is there. `program` without a folder is looked for in `folder` first. True when it was started.
 bool startProgram(std::string_view program, std::string_view arguments, std::string_view folder);
 
+/// True for a file that the system lets its user run, whatever it is called. On Windows the name tells that, and this
+/// is never true.
+bool isProgram(std::string_view path);
+
 /// Opens a web address or a local page in the user's browser. True when a browser was started.
 bool openInBrowser(std::string_view address);
 

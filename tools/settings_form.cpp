@@ -3,16 +3,15 @@
 #include "core/attempt.h"
 #include "core/desk.h"
 #include "core/forms/frmmain.h"
-#include "core/forms/frmopen2.h"
 #include "core/forms/frmsettings.h"
 #include "core/messages.h"
 #include "core/program.h"
 #include "core/shared.h"
+#include "panels/sound_tools.h"
 #include "platform/files.h"
 #include "tools/programs_bar.h"
 
 #include <initializer_list>
-#include <optional>
 
 namespace tarvelin
 {
@@ -20,12 +19,7 @@ namespace tarvelin
 namespace
 {
 
-constexpr std::int16_t choosesProgram = 7;
 constexpr std::string_view programsFile = "\\Bfdata\\programs.dat";
-
-// The picker of programs also shows its choice in the field of the user's name; that is not the user's name.
-bool pickerIsOpen = false;
-bool nameIsPickers = false;
 
 /// A text of the settings and its field.
 struct SettingRow
@@ -59,18 +53,11 @@ void showSettings()
   for (const SettingRow& row : settingRows)
     (frmsettings.*row.field).set(shared.Nastaveni.*row.set);
   frmsettings.Check1.set(shared.Nastaveni.UkazovatTipy != 0);
-  nameIsPickers = false;
 }
 
 void keep(const SettingRow& row)
 {
-  const bool isName = row.field == &SettingsForm::Text1;
-  if (isName && pickerIsOpen)
-    nameIsPickers = true;
-  else
-    shared.Nastaveni.*row.set = (frmsettings.*row.field).text();
-  if (isName && !pickerIsOpen)
-    nameIsPickers = false;
+  shared.Nastaveni.*row.set = (frmsettings.*row.field).text();
 }
 
 void frmsettings_Load()
@@ -83,22 +70,7 @@ void frmsettings_Load()
 void Command4_Click()
 {
   for (const SettingRow& row : settingRows)
-    if (row.field != &SettingsForm::Text1 || !nameIsPickers)
-      keep(row);
-}
-
-/// Path of a program that the user picks; nothing when none was picked.
-std::optional<std::string> pickProgram()
-{
-  shared.RezimOtevreni = choosesProgram;
-  frmopen2.Soubor = "";
-  frmopen2.Slozka = "";
-  pickerIsOpen = true;
-  attempt([] { frmopen2.showModal(); });
-  pickerIsOpen = false;
-  if (frmopen2.Soubor.value.empty())
-    return std::nullopt;
-  return frmopen2.Slozka.value + "\\" + frmopen2.Soubor.value;
+    keep(row);
 }
 
 void cmdadd_Click()
@@ -173,19 +145,11 @@ void attachSettingsForm()
   for (const SettingRow& row : settingRows)
     (frmsettings.*row.field).onChange = [row] { keep(row); };
   frmsettings.Check1.onClick = [] { shared.Nastaveni.UkazovatTipy = flagOf(frmsettings.Check1.checked()); };
-  frmsettings.Command1.onClick = []
-  {
-    if (const auto path = pickProgram())
-      frmsettings.txtpbopath.set(*path);
-  };
+  frmsettings.Command1.onClick = [] { chooseProgram(frmsettings.txtpbopath); };
   for (const ProgramRow& row : programRows)
     (frmsettings.*row.field).onChange = [row] { attempt([row] { keepInRecord(row); }); };
   frmsettings.seznamprogramu.onClick = seznamprogramu_Click;
-  frmsettings.Command3.onClick = []
-  {
-    if (const auto path = pickProgram())
-      frmsettings.txtcesta.set(*path);
-  };
+  frmsettings.Command3.onClick = [] { chooseProgram(frmsettings.txtcesta); };
   frmsettings.cmdadd.onClick = [] { attempt(cmdadd_Click); };
   frmsettings.cmddel.onClick = cmddel_Click;
   frmsettings.cmdsave.onClick = cmdsave_Click;

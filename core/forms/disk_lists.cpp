@@ -4,6 +4,7 @@
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "platform/processes.h"
 
 #include <algorithm>
 
@@ -101,6 +102,14 @@ void FileList::setPattern(std::string_view pattern)
     read();
 }
 
+void FileList::offerPrograms(bool on)
+{
+  if (m_offersPrograms == on)
+    return;
+  m_offersPrograms = on;
+  refresh();
+}
+
 void FileList::refresh()
 {
   if (!m_path.empty())
@@ -112,7 +121,7 @@ void FileList::read()
   m_names.clear();
   if (platform::folderExists(m_path))
     for (std::string& name : platform::listFiles(m_path))
-      if (matchesPattern(name, m_pattern))
+      if (matchesPattern(name, m_pattern) || (m_offersPrograms && platform::isProgram(m_path + "\\" + name)))
         m_names.push_back(std::move(name));
   if (std::ranges::find(m_names, m_selected) == m_names.end())
     m_selected.clear();

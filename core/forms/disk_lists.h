@@ -27,6 +27,9 @@ public:
   const std::string& pattern() const { return m_pattern; }
   void setPattern(std::string_view pattern);
 
+  /// Whether the list also has every file that may be run, whatever its name.
+  void offerPrograms(bool on);
+
   /// Reads the folder anew. A highlighted file that is gone is no longer highlighted.
   void refresh();
 
@@ -46,6 +49,7 @@ private:
 
   std::string m_path;
   std::string m_pattern;
+  bool m_offersPrograms = false;
   std::vector<std::string> m_names;
   std::string m_selected;
 };

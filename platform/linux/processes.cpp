@@ -267,6 +267,11 @@ bool startProgram(std::string_view program, std::string_view arguments, std::str
   return launch(*command, std::move(words), folder.empty() ? "." : toNative(folder));
 }
 
+bool isProgram(std::string_view path)
+{
+  return isExecutable(toNative(path));
+}
+
 bool openInBrowser(std::string_view address)
 {
   const auto opener = foundInPath("xdg-open");

@@ -86,6 +86,11 @@ bool startProgram(std::string_view program, std::string_view arguments, std::str
   return true;
 }
 
+bool isProgram(std::string_view)
+{
+  return false;
+}
+
 bool openInBrowser(std::string_view address)
 {
   if (address.empty() || !isUsable(address))

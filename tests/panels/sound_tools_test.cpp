@@ -134,25 +134,37 @@ TEST_F(SoundTools, choosesAFolder)
 
 TEST_F(SoundTools, choosesAProgram)
 {
+  writeBytes(m_scratch / "source" / "f.exe.txt", "");
+  frmsettings.Text1.set("Karel");
   show(4, [] {});
-  show(7,
-       [&]
-       {
-         EXPECT_EQ(frmopen2.caption(), "T100");
-         EXPECT_TRUE(frmopen2.File1.enabled());
-         frmopen2.Dir1.userSetPath(source());
-         EXPECT_EQ(frmopen2.File1.names(), (std::vector<std::string>{"b.exe", "c.BAT", "d.com"}));
-         frmopen2.File1.userSelect("c.BAT");
-         EXPECT_EQ(frmsettings.Text1.text(), source() + "\\c.BAT");
-         frmopen2.cmdOk.click();
-       });
+  m_desk.act = [&]
+  {
+    EXPECT_EQ(shared.RezimOtevreni, 7);
+    EXPECT_EQ(frmopen2.caption(), "T100");
+    EXPECT_EQ(frmopen2.File1.pattern(), "*.exe;*.bat;*.com*");
+    EXPECT_TRUE(frmopen2.File1.enabled());
+    frmopen2.Dir1.userSetPath(source());
+    EXPECT_EQ(frmopen2.File1.names(), (std::vector<std::string>{"b.exe", "c.BAT", "d.com"}));
+    frmopen2.File1.userSelect("c.BAT");
+    EXPECT_EQ(frmsettings.txtcesta.text(), source() + "\\c.BAT");
+    frmopen2.cmdOk.click();
+  };
+  chooseProgram(frmsettings.txtcesta);
+  EXPECT_EQ(frmsettings.txtcesta.text(), source() + "\\c.BAT");
   EXPECT_EQ(frmopen2.Soubor.value, "c.BAT");
   EXPECT_EQ(frmopen2.Slozka.value, source());
   EXPECT_FALSE(frmopen2.visible());
-  show(7, [] { frmopen2.Command1.click(); });
-  EXPECT_EQ(frmsettings.Text1.text(), "");
+  m_desk.act = [] { frmopen2.Command1.click(); };
+  chooseProgram(frmsettings.txtpbopath);
+  EXPECT_EQ(frmsettings.txtpbopath.text(), "");
+  EXPECT_EQ(frmsettings.txtcesta.text(), source() + "\\c.BAT"); // another one asked
+  chooseProgram(frmsettings.txtcesta);
+  EXPECT_EQ(frmsettings.txtcesta.text(), "");
   EXPECT_EQ(frmopen2.Soubor.value, "");
+  EXPECT_EQ(frmsettings.Text1.text(), "Karel");
   EXPECT_TRUE(m_desk.seen.empty());
+
+  show(2, [&] { EXPECT_EQ(frmopen2.File1.names(), (std::vector<std::string>{"e.wav"})); });
 }
 
 TEST_F(SoundTools, choosesAnOggFile)
@@ -168,11 +180,8 @@ TEST_F(SoundTools, choosesAnOggFile)
          frmopen2.cmdOk.click();
        });
   EXPECT_EQ(frmopen2.Slozka.value + "\\" + frmopen2.Soubor.value, source() + "\\a.ogg");
-  EXPECT_EQ(frmsettings.Text1.text(), "");
-  frmsettings.Text1.set("Karel");
   show(8, [] { frmopen2.Command1.click(); });
   EXPECT_EQ(frmopen2.Slozka.value + frmopen2.Soubor.value, "");
-  EXPECT_EQ(frmsettings.Text1.text(), "Karel");
   EXPECT_TRUE(m_desk.seen.empty());
 }
 

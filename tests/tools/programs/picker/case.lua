@@ -1,5 +1,4 @@
--- The picker of executables for the programs and for the PBO utility. It also writes to the field of the user's name,
--- which must not become the user's name by that.
+-- The picker of executables for the programs and for the PBO utility: it fills the field that asked, and no other.
 start()
 local f, set = frmsettings, shared.Nastaveni
 frmmain.mnusetobec:click()
@@ -7,10 +6,15 @@ f.cmdadd:click()
 f.seznamprogramu:select(0)
 make_folder(work .. "/my tools")
 write_file(work .. "/my tools/run; it.exe", "MZ")
+write_file(work .. "/my tools/native tool", "#!/bin/sh\n")
+write_file(work .. "/my tools/notes.exe.txt", "no program")
+os.execute("chmod 755 '" .. work .. "/my tools/native tool'; mkdir '" .. work .. "/my tools/folder'")
 local shown
 on.modal.frmopen2 = function(form)
   shown = shared.RezimOtevreni
   form.Dir1.path = path(work .. "/my tools")
+  equal(form.File1.pattern, "*.exe;*.bat;*.com*", "the filter")
+  equal(table.concat(form.File1:names(), "|"), "native tool|run; it.exe", "what may be run, by its name or its permissions")
   form.File1:select("run; it.exe")
   form.cmdOk:click()
 end
@@ -24,10 +28,11 @@ f.Command4:click()
 equal(set.UzivatelJmeno, "Karel", "also after Apply")
 on.modal.frmopen2 = function(form) form.Command1:click() end
 f.Command3:click()
-equal(f.txtcesta.text, want, "cancelled: the path stays")
+equal(f.txtcesta.text, "", "Storno empties the field that asked")
+equal(shared.Programy[0].Cesta, "", "and its record")
 equal(set.UzivatelJmeno, "Karel", "and the user's name")
 
--- the PBO utility by the picker, which also writes to the field of the name
+-- the PBO utility by the picker
 write_file(work .. "/pbo.exe", "MZ")
 on.modal.frmopen2 = function(form)
   form.Dir1.path = path(work)
@@ -37,7 +42,7 @@ end
 f.Command1:click()
 equal(f.txtpbopath.text, path(work) .. "\\pbo.exe", "the choice")
 equal(set.CestaPbo, path(work) .. "\\pbo.exe", "is kept")
-equal(set.UzivatelJmeno, "Karel", "the user's name stays")
+equal(f.Text1.text .. set.UzivatelJmeno, "KarelKarel", "the user's name stays")
 on.modal.frmopen2 = nil
 f.Command1:click()
 equal(set.CestaPbo, path(work) .. "\\pbo.exe", "closed without a choice")
