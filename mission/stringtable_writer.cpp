@@ -87,8 +87,8 @@ void UlozStringtable(const std::string& cesta, Flag kampan)
   const LoggedSteps steps(
       [&](const Failure& failure)
       {
-        return "Nastala chyba při ukládání Stringtable.csv do složky: " + cesta + ", " +
-               std::to_string(failure.number) + ", " + failure.description + std::string(crlf);
+        return "Nastala chyba při ukládání Stringtable.csv do složky: " + cesta + ", " + failureText(failure) +
+               std::string(crlf);
       });
   const Source& source = kampan == 0 ? missionSource : campaignSource;
   ZapisLog("Vytváření: " + cesta + std::string(crlf));
