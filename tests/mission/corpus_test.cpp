@@ -5,6 +5,7 @@
 #include "core/forms/frmload.h"
 #include "core/forms/frmmain.h"
 #include "core/shared.h"
+#include "mission/description_reader.h"
 #include "mission/sqm_reader.h"
 #include "platform/paths.h"
 
@@ -92,6 +93,46 @@ void intelOnOneLine()
   EXPECT_EQ(shared.PocetSenzoru, 0);
 }
 
+void readDescription(const fs::path& mission)
+{
+  assembleProgram();
+  NactiDescription(platform::toProgram(fs::absolute(mission / "description.ext").lexically_normal().string()));
+}
+
+/// The lines of the log behind the one that names the file.
+std::string descriptionLog()
+{
+  const std::string& log = frmload.log.text();
+  return log.substr(log.find("\r\n") + 2);
+}
+
+/// Titles and numbers with a semicolon behind them, keys that are unknown, classes, line ends of other systems.
+void descriptionsByHand()
+{
+  int count = 0;
+  for (const fs::directory_entry& entry : fs::directory_iterator(corpus()))
+    if (fs::exists(entry.path() / "description.ext"))
+    {
+      readDescription(entry.path());
+      EXPECT_EQ(frmload.log.text().find("Nastala chyba"), std::string::npos) << entry.path();
+      ++count;
+    }
+  EXPECT_GT(count, 10);
+
+  readDescription(corpus() / "mp_horn.Demo");
+  EXPECT_EQ(frmmain.onloadmission.text(), " MP Horn Replication Test;");
+  EXPECT_TRUE(frmmain.respawn.checked());
+  EXPECT_FALSE(frmmain.None.value());
+  EXPECT_EQ(descriptionLog(), "OnLoadMission =  \"MP Horn Replication Test\";\r\n");
+
+  readDescription(corpus() / "demo_end_ukonci.Demo");
+  EXPECT_FALSE(frmmain.Debrifing.checked());
+  EXPECT_EQ(descriptionLog(), "Debriefing =  0;\r\n");
+
+  readDescription(corpus() / "sound_preload.Demo");
+  EXPECT_EQ(descriptionLog(), "");
+}
+
 class CorpusTest : public testing::Test
 {
 public:
@@ -115,6 +156,7 @@ const bool registered = []
   add("EndingsOfAChain", endingsOfAChain);
   add("CountsWithDecimals", countsWithDecimals);
   add("IntelOnOneLine", intelOnOneLine);
+  add("DescriptionsByHand", descriptionsByHand);
   return true;
 }();
 
