@@ -41,9 +41,8 @@ struct PickerMode
 };
 
 constexpr PickerMode modes[] = {
-    {2, 0, "*.wav*", "oggenc.exe"},  {3, 1, "*.wav*", "wavetolip.exe"},
-    {choosesFolder, 2, "", ""},      {5, 98, "*.wss*", "wssdec.exe"},
-    {6, 99, "*.wav*", "wsscod.exe"}, {choosesProgram, 100, "*.exe;*.bat;*.com*", ""},
+    {2, 0, "*.wav*", "oggenc.exe"},  {3, 1, "*.wav*", "wavetolip.exe"}, {choosesFolder, 2, "", ""},
+    {5, 98, "*.wss*", "wssdec.exe"}, {6, 99, "*.wav*", "wsscod.exe"},   {choosesProgram, 100, "*.exe;*.bat;*.com*", ""},
     {8, unchanged, "*.ogg*", ""},
 };
 

@@ -209,9 +209,8 @@ void cmddelall_Click()
 
 LoggedSteps fileSteps(std::string what, std::string path)
 {
-  return LoggedSteps(
-      [what = std::move(what), path = std::move(path)](const Failure& failure)
-      { return what + path + ", " + failureText(failure) + std::string(crlf); });
+  return LoggedSteps([what = std::move(what), path = std::move(path)](const Failure& failure)
+                     { return what + path + ", " + failureText(failure) + std::string(crlf); });
 }
 
 void cmdsaveaddons_Click()
