@@ -1,7 +1,6 @@
 #include "ui/default_button.h"
 
 #include <QPushButton>
-
 #include <algorithm>
 
 namespace tarvelin::ui
@@ -10,8 +9,8 @@ namespace tarvelin::ui
 void pressDefault(const QWidget& widget)
 {
   const auto buttons = widget.window()->findChildren<QPushButton*>();
-  const auto found =
-      std::ranges::find_if(buttons, [](const QPushButton* button) { return button->isDefault() && button->isVisible(); });
+  const auto found = std::ranges::find_if(buttons, [](const QPushButton* button)
+                                          { return button->isDefault() && button->isVisible(); });
   if (found != buttons.end())
     (*found)->click();
 }

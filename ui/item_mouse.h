@@ -10,6 +10,7 @@ namespace tarvelin::ui
 
 /// The mouse over a list or a tree, as the fields know it: a left click is a press and a release on one item, told
 /// once also when it is the second of a double click; a right press leaves the highlight; dragging highlights nothing.
+/// An arrow key begins with the first item.
 class ItemMouse : public QObject
 {
 public:
@@ -30,7 +31,9 @@ public:
 private:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void released();
+  bool highlightFirst();
 
+  QAbstractItemView& m_view;
   bool m_down = false;
   bool m_spent = false;
 };

@@ -100,6 +100,7 @@ private:
       QTreeWidgetItem* const above = node->parent ? m_items.value(node->parent) : m_tree->invisibleRootItem();
       auto item = std::make_unique<QTreeWidgetItem>();
       item->setText(0, QString::fromStdString(node->text));
+      item->setToolTip(0, item->text(0)); // a long one is cut
       item->setIcon(0, iconOf(node->icon));
       item->setData(0, Qt::UserRole, key);
       m_items.insert(node, item.get());

@@ -33,8 +33,7 @@ std::string joinedArguments(const QStringList& arguments)
 int main(int count, char** arguments)
 {
   QApplication application(count, arguments);
-  QApplication::setApplicationName("tarvelin");
-  QApplication::setApplicationDisplayName("Tarvelin");
+  QApplication::setApplicationName("Tarvelin");
   QApplication::setDesktopFileName("tarvelin");
   QApplication::setWindowIcon(QIcon(":/tarvelin.svg"));
   QApplication::setQuitOnLastWindowClosed(false); // the program says when it ends

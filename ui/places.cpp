@@ -12,7 +12,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QToolButton>
-
 #include <algorithm>
 
 namespace tarvelin::ui

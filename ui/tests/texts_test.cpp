@@ -9,7 +9,6 @@
 
 #include <QtTest>
 #include <QtWidgets>
-
 #include <ctime>
 
 using namespace tarvelin;

@@ -66,6 +66,7 @@ private slots:
 
   void formIsShownAndHidden();
   void mainWindowCannotBeResized();
+  void programsBar();
   void closingAsksTheForm();
   void modalFormWaits();
   void boxIsHarmless();
@@ -108,6 +109,40 @@ void WindowsTest::mainWindowCannotBeResized()
   const QSize needed = window->layout()->totalMinimumSize();
   QVERIFY2(needed.width() <= window->width() && needed.height() <= window->height(),
            qPrintable(QString("%1 x %2").arg(needed.width()).arg(needed.height())));
+}
+
+void WindowsTest::programsBar()
+{
+  ui::FormWindows windows;
+  frmmain.Image1.load(1);                     // before the window is there
+  for (Field* const field : frmmain.fields()) // nothing is pushed out of the window by what comes and goes
+    field->show(true);
+  frmmain.show();
+  const QWidget* const window = windows.of(frmmain).window();
+  const QSize needed = window->layout()->totalMinimumSize();
+  QVERIFY2(needed.width() <= window->width() && needed.height() <= window->height(),
+           qPrintable(QString("%1 x %2").arg(needed.width()).arg(needed.height())));
+  constexpr int programs = 30;
+  int started = 0;
+  for (int i = 1; i <= programs; ++i)
+    frmmain.Image1.load(i).onClick = [&started, i] { started = i; };
+  frmmain.HScroll1.setRange(0, 500);
+  auto* const last = window->findChild<QLabel*>("Image1_30");
+  QVERIFY(last && last->isVisible());
+  QTest::mouseClick(last, Qt::LeftButton);
+  QCOMPARE(started, programs);
+
+  const auto* const frame = window->findChild<QLabel*>("Picture1");
+  const auto right = [&] { return last->mapTo(frame, last->rect().bottomRight()).x(); };
+  QVERIFY(right() > frame->width());
+  frmmain.HScroll1.set(500); // its end is the strip's end
+  QVERIFY(right() < frame->width());
+
+  frmmain.Image1.unload(programs);
+  QVERIFY(last->isHidden());
+  QTest::mouseClick(last, Qt::LeftButton); // nobody is there any more
+  frmmain.Image1.load(programs);
+  QVERIFY(!last->isHidden());
 }
 
 void WindowsTest::closingAsksTheForm()
@@ -269,17 +304,18 @@ void WindowsTest::listByKeys()
   QListWidget list;
   for (const char* const text : {"alpha", "beta"})
     page.list.add(text);
-  page.list.select(0);
   int clicks = 0;
   page.list.onClick = [&clicks] { ++clicks; };
   const auto link = ui::linkList(page.list, &list);
   list.show();
   QTest::keyClick(&list, Qt::Key_Down);
+  QCOMPARE(page.list.index(), 0);
+  QTest::keyClick(&list, Qt::Key_Down);
   QCOMPARE(page.list.index(), 1);
-  QCOMPARE(clicks, 1);
+  QCOMPARE(clicks, 2);
   QTest::keyClick(&list, Qt::Key_Space);
   QVERIFY(page.list.marked(1));
-  QCOMPARE(clicks, 2);
+  QCOMPARE(clicks, 3);
 }
 
 void WindowsTest::thousandRows()
