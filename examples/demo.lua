@@ -5,6 +5,7 @@
 -- FOLDER is a program folder with Bfdata in it, MISSION the mission.sqm whose companion files are to be written.
 
 local mission = assert(arg[1], "usage: demo.lua MISSION")
+local media = path((arg[0]:match("^(.*)/") or ".") .. "/media") -- the demo's sounds and picture
 
 -- What the first start asks.
 function on.modal.frmloadsite(form)
@@ -60,7 +61,17 @@ for _, side in ipairs(sides) do
     frmmain.cmdpridat:click()
   end
 end
+
+-- What the game's mission list shows: a text and a picture.
 frmmain.txtOverview.text = "Two lorries, one road, and an hour of darkness left."
+function on.modal.Frmopen(form)
+  form.Dir1.path = media
+  form.File1:select("levie.jpg")
+  form.cmdOk:click()
+end
+frmmain.cmdopen:click()
+frmmain.Sirka:select(7) -- 256
+frmmain.Vyska:select(6) -- 128
 
 for _, ending in ipairs {
   {"The depot stays empty", "Both lorries burned beside the road."},
@@ -108,6 +119,68 @@ for _, weapon in ipairs {
     frmmain[magazines].text = tostring(rounds)
   end
 end
+
+-- A weapon of an add-on, which the catalogue cannot know.
+frmmain.cmdaddweapon:click()
+frmmain.seznamzbrani:select(0)
+for field, text in pairs {[0] = "Silenced carbine", "DemoCarbine", [3] = "6/4", [4] = "2"} do
+  frmmain.Text1[field].text = text
+end
+frmmain.Check1.value = 1
+frmmain.Text1[5].text = "DemoGrenade"
+frmmain.seznamzbrani:mark(0, true)
+
+-- Sounds. The intake takes files from anywhere; they are copied when the mission's files are written.
+local function take(command, ...)
+  local names = {...}
+  function on.modal.frmnactizvuky(form)
+    form.Dir1.path = media
+    for _, name in ipairs(names) do
+      form.File1:select(name)
+      form.cmdadd:click()
+    end
+    form.cmdopen:click()
+  end
+  command:click()
+end
+
+-- Shows the text field in one language and fills it. The combos' rows: Czech, German, English, Spanish, Italian, French.
+local function say(combo, field, texts)
+  for row, text in pairs(texts) do
+    combo:select(row)
+    field.text = text
+  end
+end
+
+take(frmmain.cmdnacistradio, "callsign.ogg")
+frmmain.seznamradia:select(0)
+frmmain.txtjmenoradia.text = "ColumnSeen"
+frmmain.txtradiojmeno.text = "The column is in sight"
+frmmain.txtpostava.text = "velitel"
+frmmain.txtradiohlasitost.text = "+5"
+say(frmmain.radiojazyk, frmmain.txtradio, {
+  [0] = "Kolona je na dohled.", "Die Kolonne ist in Sicht.", "The column is in sight.",
+  "La columna está a la vista.", "Ecco la colonna.", "La colonne est en vue.",
+})
+
+take(frmmain.cmdnacistzvuk, "callsign.ogg")
+frmmain.seznamzvuku:select(0)
+frmmain.txtjmenozvuku.text = "DepotCalls"
+frmmain.txtnazev.text = "The depot calls"
+for subtitle, texts in ipairs {
+  {[0] = "Tady sklad, kde jste?", [2] = "Depot here, where are you?"},
+  {[0] = "Ozvěte se!", [2] = "Come in!"},
+} do
+  frmmain.cmdadd:click()
+  frmmain.seznamtextu:select(subtitle - 1)
+  say(frmmain.zvukyjazyk, frmmain.txtzvuk, texts)
+end
+
+take(frmmain.cdmnactihudbu, "nocturne.ogg")
+frmmain.seznamhudby:select(0)
+frmmain.txtjmenohudby.text = "Nocturne"
+frmmain.txthudbanazev.text = "Before the dawn"
+frmmain.txthudbahlasitost.text = "+0"
 
 frmmain.seznamakci:select(3) -- everything
 frmmain.cmdvytvor:click()

@@ -53,21 +53,6 @@ function same_as_kept(folder, name)
   same(read_file(folder .. "/" .. name), assert(read_file(case_folder .. "/campaign/" .. name)), name)
 end
 
--- every path below a folder, folders with "/" behind
-function paths(folder)
-  local names = {}
-  local command = "cd '" .. folder .. "' && find . -mindepth 1 \\( -type d -printf '%P/\\n' -o -printf '%P\\n' \\)"
-  for name in io.popen(command):lines() do names[#names + 1] = name end
-  return names
-end
-
--- the same, sorted by bytes, joined by blanks
-function everything(folder)
-  local names = paths(folder)
-  table.sort(names)
-  return table.concat(names, " ")
-end
-
 -- a generated campaign against the folder campaign/ beside the case: the same paths, the same bytes. Folders that are
 -- meant to be empty are named, as they cannot be kept.
 function same_campaign(made, empty_folders)

@@ -97,6 +97,21 @@ function listing(native_path)
   return table.concat(names, " ")
 end
 
+-- every path below a folder, folders with "/" behind
+function paths(folder)
+  local names = {}
+  local command = "cd '" .. folder .. "' && find . -mindepth 1 \\( -type d -printf '%P/\\n' -o -printf '%P\\n' \\)"
+  for name in io.popen(command):lines() do names[#names + 1] = name end
+  return names
+end
+
+-- the same, sorted by bytes, joined by blanks
+function everything(folder)
+  local names = paths(folder)
+  table.sort(names)
+  return table.concat(names, " ")
+end
+
 -- a folder work/NAME with a mission.sqm (LF is made CR LF); its native path
 function mission(name, sqm)
   local folder = make_folder(work .. "/" .. name)
