@@ -1,6 +1,10 @@
 -- home: fresh
 -- The demo among the examples writes what it says, from a first start on: four files, two sounds and a picture.
 local examples = case_folder .. "/../../../examples"
+local data = examples .. "/../Bfdata" -- the demo answers the language chooser in the shipped language's name
+for _, name in ipairs(paths(data)) do
+  if name:sub(-1) == "/" then make_folder(home .. "/Bfdata/" .. name) else write_file(home .. "/Bfdata/" .. name, read_file(data .. "/" .. name)) end
+end
 local folder = make_folder(work .. "/Demo.Eden")
 write_file(folder .. "/mission.sqm", read_file(examples .. "/Demo.Eden/mission.sqm"))
 
