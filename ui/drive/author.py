@@ -52,14 +52,6 @@ def settings_file(folder):
             struct.pack("<hh", -1, -1) + text("Žofie Nováková") + text("zofie@example.org") + 3 * never_chosen)
 
 
-def answer_prompt(program, question, answer):
-    drive.wait_until(lambda: (program.widget("QInputDialog", "QLabel") or {}).get("text") == question, question)
-    program.wait_focus("QInputDialog", "QLineEdit")
-    program.type_keys(answer)
-    program.wait_text("QInputDialog", "QLineEdit", answer)
-    program.key("Return")
-
-
 def close_tips(program):
     program.wait_window("frmtips")
     program.key("Escape")
@@ -82,12 +74,8 @@ def mark_row(program, window, name, row, marked):
 
 def evening(program, mission):
     """The first start: the language, a name, and a mission from the texts to the weapons."""
-    program.start()
-    program.wait_window("frmloadsite")
-    program.select_row("frmloadsite", "List1", "Czech.lng")
-    program.click("frmloadsite", "Command1")
-    answer_prompt(program, "Napište vaše jméno:", "Žofie Nováková")
-    answer_prompt(program, "Napište váš e-mail:", "zofie@example.org")
+    answers = {"Napište vaše jméno:": "Žofie Nováková", "Napište váš e-mail:": "zofie@example.org"}
+    expect(program.first_start("Czech.lng", answers), list(answers), "what the first start asks")
     close_tips(program)
     expect(program.widget("frmmain", "SSTab1")["enabled"], False, "pages without a mission")
 

@@ -200,6 +200,29 @@ class Program:
         self._asked = self._caller.makefile("rwb")
         return started
 
+    def first_start(self, language, answers):
+        """Starts the program for the first time: chooses the language pack and gives each prompt its answer by its
+        question; without one Enter alone."""
+        self.start()
+        self.wait_window("frmloadsite")
+        self.select_row("frmloadsite", "List1", language)
+        self.click("frmloadsite", "Command1")
+        asked = []
+
+        def question():
+            label = self.widget("QInputDialog", "QLabel")
+            return label["text"] if label and label["text"] not in asked else None
+
+        for _ in range(2):  # the name and the address
+            asked.append(wait_until(question, "a prompt"))
+            self.wait_focus("QInputDialog", "QLineEdit")
+            answer = answers.get(asked[-1], "")
+            self.type_keys(answer)
+            self.wait_text("QInputDialog", "QLineEdit", answer)
+            self.key("Return")
+        self.wait_gone("QInputDialog")
+        return asked
+
     def wait_end(self):
         """Waits for the program to end by itself; returns its status."""
         try:

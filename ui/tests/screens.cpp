@@ -1,5 +1,5 @@
-// tarvelin-screens FOLDER MISSION: pictures of every window and every tab, in each language of the packs, for somebody
-// to look at.
+// tarvelin-screens FOLDER MISSION [LANGUAGE ...]: pictures of every window and every tab, in those languages or in each
+// of the packs, for somebody to look at.
 
 #include "app/assemble.h"
 #include "core/desk.h"
@@ -114,14 +114,25 @@ int main(int count, char** arguments)
 {
   QApplication application(count, arguments);
   const QStringList given = QApplication::arguments();
-  if (given.size() != 3)
+  if (given.size() < 3)
   {
-    std::fputs("usage: tarvelin-screens FOLDER MISSION\n", stderr);
+    std::fputs("usage: tarvelin-screens FOLDER MISSION [LANGUAGE ...]\n", stderr);
     return 2;
   }
   QDir().mkpath(given[1]);
   const QString packs = QCoreApplication::applicationDirPath() + "/Bfdata/languages/Tv";
-  for (const QFileInfo& pack : QDir(packs).entryInfoList({"*.lng"}))
-    grabAll(given[1], pack.completeBaseName(), given[2]);
+  QStringList languages = given.mid(3);
+  if (languages.isEmpty())
+    for (const QFileInfo& pack : QDir(packs).entryInfoList({"*.lng"}))
+      languages += pack.completeBaseName();
+  for (const QString& language : languages)
+  {
+    if (!QFile::exists(packs + '/' + language + ".lng"))
+    {
+      std::fprintf(stderr, "tarvelin-screens: no such language: %s\n", qUtf8Printable(language));
+      return 1;
+    }
+    grabAll(given[1], language, given[2]);
+  }
   return 0;
 }
