@@ -30,6 +30,7 @@ quit()
 constexpr std::string_view writeScript = R"(
 local realQuit = quit
 quit = function() end
+arg[0] = arg[2]
 dofile(arg[2])
 print("bench: go") io.flush()
 for _ = 1, tonumber(arg[3]) do frmmain.cmdvytvor:click() end

@@ -64,12 +64,16 @@ public:
     if (!found)
       return;
     m_open.push_back(source);
+    m_seen.push_back(source);
     for (const std::string& name : folders)
     {
       const std::string folder = source + "\\" + name;
-      if (holdsItself(folder))
+      const int links = platform::isLink(folder) ? 1 : 0;
+      if (holdsItself(folder) || (links > 0 && m_links > 0 && isAmong(m_seen, folder)))
         continue;
+      m_links += links;
       copy(folder, target + "\\" + name);
+      m_links -= links;
       desk().breathe();
     }
     m_open.pop_back();
@@ -77,10 +81,14 @@ public:
   }
 
 private:
+  static bool isAmong(const std::vector<std::string>& folders, const std::string& folder)
+  {
+    return std::ranges::any_of(folders, [&](const std::string& other) { return platform::sameFile(folder, other); });
+  }
+
   bool holdsItself(const std::string& folder) const
   {
-    return platform::sameFile(folder, m_target) ||
-           std::ranges::any_of(m_open, [&](const std::string& open) { return platform::sameFile(folder, open); });
+    return platform::sameFile(folder, m_target) || isAmong(m_open, folder);
   }
 
   static void copyFiles(const std::string& source, const std::string& target, const LoggedSteps& steps)
@@ -100,6 +108,9 @@ private:
 
   std::string m_target;
   std::vector<std::string> m_open; ///< the folders above the one in hand, and those above the source
+  std::vector<std::string> m_seen; ///< all so far: a link inside a linked folder brings none of them again, or folders
+                                   ///< that link to each other would be copied in every order
+  int m_links = 0;                 ///< links on the way to the folder in hand
 };
 
 /// The way of a campaign to its folder.

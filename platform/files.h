@@ -62,6 +62,9 @@ std::vector<std::string> listFolders(std::string_view folder);
 /// True when both paths lead to the same existing file or folder.
 bool sameFile(std::string_view a, std::string_view b);
 
+/// True when the name itself is a link to a file or folder, or to nothing.
+bool isLink(std::string_view path);
+
 /// True when a file could be created in the folder.
 bool folderWritable(std::string_view folder);
 

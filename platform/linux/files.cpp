@@ -457,6 +457,14 @@ bool sameFile(std::string_view a, std::string_view b)
   return first && second && isSame(*first, *second);
 }
 
+bool isLink(std::string_view path)
+{
+  if (path.empty() || path.find('\0') != std::string_view::npos)
+    return false;
+  Status status;
+  return lstat(toNative(path).c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
 bool folderWritable(std::string_view folder)
 {
   return folderExists(folder) && TemporaryFile(toNative(folder)).file().valid();

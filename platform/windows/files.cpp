@@ -367,6 +367,14 @@ bool sameFile(std::string_view a, std::string_view b)
   return isUsable(a) && isUsable(b) && same(wide(a), wide(b));
 }
 
+bool isLink(std::string_view path)
+{
+  if (!isUsable(path))
+    return false;
+  const auto attributes = attributesOf(wide(path));
+  return attributes && (*attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
 bool folderWritable(std::string_view folder)
 {
   return folderExists(folder) && TemporaryFile(wide(folder)).valid();

@@ -155,6 +155,33 @@ TEST_F(Copying, LinksThatLeadBackAreNotFollowed)
   EXPECT_EQ(tree("cil"), "odkaz/ odkaz/b.txt pod/ pod/a.txt ");
 }
 
+TEST_F(Copying, FoldersThatLinkToEachOtherDoNotGrowWithoutEnd)
+{
+  constexpr int folders = 12;
+  for (int from = 0; from < folders; ++from)
+  {
+    const std::string folder = "zdroj/d" + std::to_string(from);
+    m_scratch.put(folder + "/f", std::to_string(from));
+    for (int to = 0; to < folders; ++to)
+      fs::create_directory_symlink(m_scratch.native("zdroj/d" + std::to_string(to)),
+                                   m_scratch.native(folder + "/l" + std::to_string(to)));
+  }
+  copy("zdroj", "cil");
+  for (int from = 0; from < folders; ++from)
+    for (int to = 0; to < folders; ++to)
+    {
+      const std::string file = "cil/d" + std::to_string(from) + "/l" + std::to_string(to) + "/f";
+      EXPECT_EQ(m_scratch.has(file), from != to) << file;
+    }
+  const std::string all = tree("cil");
+  constexpr int direct = folders + folders * (folders - 1); // each folder, and each through each other's link
+  constexpr int chain = folders - 2; // the first link was followed on to those that had not been seen yet
+  std::ptrdiff_t files = 0;
+  for (std::size_t at = all.find("/f "); at != std::string::npos; at = all.find("/f ", at + 1))
+    ++files;
+  EXPECT_EQ(files, direct + chain);
+}
+
 TEST_F(Copying, ATargetInTheSourceIsNotCopiedIntoItself)
 {
   m_scratch.put("mise/a.txt", "a");

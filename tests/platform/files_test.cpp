@@ -458,6 +458,21 @@ TEST(Files, KnowsTheSameFileUnderOtherNames)
   EXPECT_FALSE(sameFile(scratch.path("none"), scratch.path("none")));
 }
 
+TEST(Files, KnowsLinks)
+{
+  const Scratch scratch;
+  scratch.put("sub/file", "x");
+  std::filesystem::create_symlink("sub/file", scratch.native("link"));
+  std::filesystem::create_directory_symlink("sub", scratch.native("Folder"));
+  std::filesystem::create_symlink("nowhere", scratch.native("dead"));
+  for (const char* const name : {"link", "LINK", "folder", "dead"})
+    EXPECT_TRUE(isLink(scratch.path(name))) << name;
+  for (const char* const name : {"sub", "sub\\file", "folder\\file", "none"})
+    EXPECT_FALSE(isLink(scratch.path(name))) << name;
+  EXPECT_FALSE(isLink(""));
+  EXPECT_FALSE(isLink(std::string("a\0b", 3)));
+}
+
 TEST(Files, KnowsWhereFilesCanBeMade)
 {
   const Scratch scratch;
