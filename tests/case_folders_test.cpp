@@ -2,8 +2,10 @@
 // copied to the scratch folder as mission.Eden, `home`, which is laid over the program folder, and `expected`: after
 // the script every one of its files must lie in mission.Eden byte for byte, and no other file that `mission` did not
 // bring. Comments at the head of the script steer it: "-- home: fresh" (a first start), "-- exit: N", "-- stderr:
-// TEXT".
+// TEXT". Each Description.ext that the program wrote, and that the script read or left behind, must be one that the
+// game takes.
 
+#include "tests/lib/generated_descriptions.h"
 #include "tests/test_home.h"
 
 #include <algorithm>
@@ -68,6 +70,7 @@ public:
     const fs::path mission = work / "mission.Eden";
     fs::create_directories(home);
     fs::create_directories(work);
+    fs::create_directories(scratch / "descriptions"); // what the script reads leaves copies here
     makeHome(home, directive(script, "home") != "fresh");
     const auto overlay = fs::copy_options::recursive | fs::copy_options::overwrite_existing;
     if (fs::is_directory(m_folder / "home"))
@@ -84,6 +87,7 @@ public:
     EXPECT_NE(run.errors.find(directive(script, "stderr")), std::string::npos) << run.errors;
     EXPECT_EQ(run.output.find("FAILED"), std::string::npos) << run.output;
     compare(mission);
+    expectDescriptionsTaken(fs::relative(m_folder, TARVELIN_TESTS).generic_string(), scratch.path());
   }
 
 private:

@@ -9,6 +9,7 @@
 #include "core/shared.h"
 #include "core/strings.h"
 #include "platform/codepage.h"
+#include "tests/lib/generated_descriptions.h"
 #include "tests/platform/scratch.h"
 
 #include <gtest/gtest.h>
@@ -55,7 +56,11 @@ protected:
     record.Hloubka = "1.0";
   }
 
-  void write() { UlozKampanDescription(m_scratch.path("Description.ext")); }
+  void write()
+  {
+    UlozKampanDescription(m_scratch.path("Description.ext"));
+    test::expectDescriptionTaken(tmpfrm.tmpcamp.text());
+  }
 
   /// What lies between two texts of the file, the first one included.
   static std::string section(std::string_view from, std::string_view to = {})

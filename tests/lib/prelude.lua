@@ -63,18 +63,25 @@ function same(got, want, what)
   end
 end
 
+function write_file(native_path, bytes)
+  local file = assert(io.open(native_path, "wb"))
+  file:write(bytes)
+  file:close()
+end
+
+local looked_at = 0
+
 function read_file(native_path)
   local file = io.open(native_path, "rb")
   if not file then return nil end
   local bytes = file:read("a")
   file:close()
+  -- a later step of the case may write it anew: its syntax is checked when the case is over
+  if native_path:lower():match("/description%.ext$") and native_path:sub(1, #work) == work then
+    looked_at = looked_at + 1
+    write_file(string.format("%s/../descriptions/%03d.ext", work, looked_at), bytes)
+  end
   return bytes
-end
-
-function write_file(native_path, bytes)
-  local file = assert(io.open(native_path, "wb"))
-  file:write(bytes)
-  file:close()
 end
 
 function make_folder(native_path)

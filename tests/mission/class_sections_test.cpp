@@ -9,6 +9,7 @@
 #include "platform/codepage.h"
 #include "platform/locale.h"
 #include "platform/paths.h"
+#include "tests/lib/generated_descriptions.h"
 #include "tests/test_home.h"
 
 #include <filesystem>
@@ -89,7 +90,9 @@ protected:
                                     return std::string();
                                   }));
     EXPECT_TRUE(text.starts_with("the text before\r\n"));
-    return text.substr(17);
+    text.erase(0, 17);
+    test::expectDescriptionTaken(text);
+    return text;
   }
 
   /// The whole text, in which `section` stands in the place of the empty one at `place`.
