@@ -1,5 +1,7 @@
 // tarvelin-screens FOLDER MISSION [LANGUAGE ...]: pictures of every window and every tab, in those languages or in each
-// of the packs, for somebody to look at.
+// of the packs, for somebody to look at. With --filled before the FOLDER and one LANGUAGE the windows show a sample
+// mission and campaign; the missions and sounds that it takes lie beside the folder of MISSION's folder
+// (art/help-screens makes them).
 
 #include "app/assemble.h"
 #include "core/desk.h"
@@ -7,9 +9,11 @@
 #include "core/forms/frmloadsite.h"
 #include "core/forms/frmmain.h"
 #include "core/program.h"
+#include "core/shared.h"
 #include "core/startup.h"
 #include "platform/paths.h"
 #include "ui/form_window.h"
+#include "ui/tests/sample_content.h"
 
 #include <QtWidgets>
 
@@ -22,10 +26,13 @@ namespace
 class ScreensDesk : public Desk
 {
 public:
-  explicit ScreensDesk(const QString& language) : m_language(language) {}
+  /// `samples` is the folder with what the sample content picks, empty when the windows are not filled.
+  ScreensDesk(const QString& language, const QString& samples) : m_language(language), m_samples(samples) {}
 
   void showModal(Form& form) override
   {
+    if (!m_samples.isEmpty() && pickSample(form, m_samples.toStdString()))
+      return;
     if (&form != &frmloadsite)
       return;
     for (int row = 0; row < frmloadsite.List1.count(); ++row)
@@ -37,7 +44,10 @@ public:
   {
     return buttons == Buttons::ok ? Answer::ok : Answer::no;
   }
-  std::optional<std::string> prompt(std::string_view, std::string_view, std::string_view) override { return "Jan"; }
+  std::optional<std::string> prompt(std::string_view text, std::string_view, std::string_view) override
+  {
+    return text == Texty(111) ? "jana@example.org" : "Jana";
+  }
   std::optional<Colour> chooseColour(Colour) override { return {}; }
   std::optional<tarvelin::Font> chooseFont(const tarvelin::Font&) override { return {}; }
   std::optional<std::string> chooseFile(std::string_view) override { return {}; }
@@ -46,7 +56,7 @@ public:
   void breathe() override {}
 
 private:
-  QString m_language;
+  QString m_language, m_samples;
 };
 
 void settle()
@@ -81,16 +91,18 @@ void copyFolder(const QString& from, const QString& to)
       QFile::copy(entry.filePath(), to + '/' + entry.fileName());
 }
 
-void grabAll(const QString& folder, const QString& language, const QString& mission)
+void grabAll(const QString& folder, const QString& language, const QString& mission, bool filled)
 {
   const QTemporaryDir home;
   copyFolder(QCoreApplication::applicationDirPath() + "/Bfdata", home.filePath("Bfdata"));
   setProgramFolder(platform::toProgram(home.path().toStdString()));
   assembleProgram();
-  ScreensDesk desk(language);
+  ScreensDesk desk(language, filled ? QDir::cleanPath(QFileInfo(mission).absolutePath() + "/../..") : QString());
   setDesk(&desk);
   ui::FormWindows windows;
   startProgram(("MISSION=" + mission).toStdString());
+  if (filled)
+    fillWithSample(language.toStdString());
   for (Form* const form : allForms())
   {
     QWidget* const window = windows.of(*form).window();
@@ -113,10 +125,13 @@ void grabAll(const QString& folder, const QString& language, const QString& miss
 int main(int count, char** arguments)
 {
   QApplication application(count, arguments);
-  const QStringList given = QApplication::arguments();
-  if (given.size() < 3)
+  QStringList given = QApplication::arguments();
+  const bool filled = given.removeAll("--filled") != 0;
+  if (given.size() < 3 || (filled && given.size() != 4)) // the sample would be filled in a second time
   {
-    std::fputs("usage: tarvelin-screens FOLDER MISSION [LANGUAGE ...]\n", stderr);
+    std::fputs("usage: tarvelin-screens FOLDER MISSION [LANGUAGE ...]\n"
+               "       tarvelin-screens --filled FOLDER MISSION LANGUAGE\n",
+               stderr);
     return 2;
   }
   QDir().mkpath(given[1]);
@@ -132,7 +147,7 @@ int main(int count, char** arguments)
       std::fprintf(stderr, "tarvelin-screens: no such language: %s\n", qUtf8Printable(language));
       return 1;
     }
-    grabAll(given[1], language, given[2]);
+    grabAll(given[1], language, given[2], filled);
   }
   return 0;
 }
