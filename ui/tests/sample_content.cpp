@@ -3,6 +3,7 @@
 
 #include "core/forms/all_forms.h"
 #include "core/forms/form2.h"
+#include "core/forms/frmabout2.h"
 #include "core/forms/frmcamp1.h"
 #include "core/forms/frmcamp2.h"
 #include "core/forms/frmcamp3.h"
@@ -12,6 +13,7 @@
 #include "core/forms/frmcampobr.h"
 #include "core/forms/frmdalsinast.h"
 #include "core/forms/frmdebrief.h"
+#include "core/forms/frmloadsite.h"
 #include "core/forms/frmmain.h"
 #include "core/forms/frmnactizvuky.h"
 #include "core/forms/frmnahled.h"
@@ -209,6 +211,18 @@ void fillProgramSettings()
   frmsettings.txtparams.set(say("<MISE>Description.ext", "<MISSION>Description.ext"));
 }
 
+void fillSmallWindows()
+{
+  frmabout2.load();
+  frmabout2.lblcesta.setCaption("C:\\Hry\\OperationFlashpoint");
+  frmabout2.lblCD.setCaption("D:");
+  frmloadsite.List1.clear();
+  for (const char* const page : {"Briefing.html", "Briefing.Czech.html", "Briefing.English.html"})
+    frmloadsite.List1.add(page);
+  frmloadsite.List1.userSelect(1);
+  frmloadsite.cmdstorno.show(true);
+}
+
 void addMission(std::string_view chapter, const std::string& mission)
 {
   missionToPick = mission;
@@ -245,6 +259,13 @@ void fillCampaign()
   addChapter(say("Cesta domů", "The Way Home"));
   addMission("PART2", "Konec.Eden");
   frmcamp4.campfiles.userClick("PART1MISSION1");
+  frmcamp5.load();
+  soundsToPick = {"motory.ogg", "vrtulnik.ogg"};
+  frmcamp5.cmdnacistzvuk.click();
+  frmcamp5.seznamzvuku.userSelect(0);
+  soundsToPick = {"navrat.ogg", "rozkaz.ogg"};
+  frmcamp5.cdmnactihudbu.click();
+  frmcamp5.seznamhudby.userSelect(0);
   frmcampobr.load();
   frmcampobr.txtkampover.set(
       say("Dva náklaďáky, jedna silnice a dlouhá cesta domů.", "Two lorries, one road, and a long way home."));
@@ -302,6 +323,7 @@ void fillWithSample(std::string_view language)
   fillProgramSettings();
   frmmain.cmdvytvor.click();
   fillCampaign();
+  fillSmallWindows();
   frmnahled.load();
   frmnahled.cmdoverview.click();
   for (Form* const form : allForms())
