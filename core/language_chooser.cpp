@@ -37,6 +37,7 @@ void changeLanguage(const std::string& path)
 void frmloadsite_Activate()
 {
   frmloadsite.cmdstorno.show(frmloadsite.RezimJazyka);
+  frmloadsite.Label1.show(!frmloadsite.RezimJazyka); // it asks for a page
 }
 
 void List1_Click()

@@ -25,6 +25,16 @@ std::string asFolder(std::string_view path)
   return folder;
 }
 
+/// A path that says from where: a folder list shows the way down from a drive's root.
+std::string fromRoot(const std::string& path)
+{
+  const bool whole = path.starts_with('\\') || (path.size() > 1 && path[1] == ':');
+  if (whole || path.empty())
+    return path;
+  const std::string here = platform::currentFolder();
+  return here + (here.ends_with('\\') ? "" : "\\") + path;
+}
+
 bool matchesOne(std::string_view name, std::string_view pattern)
 {
   std::size_t n = 0;
@@ -157,7 +167,7 @@ void FolderList::go(std::string_view path)
   const std::string folder = asFolder(path);
   if (!platform::folderExists(folder))
     throw Failure(Fault::pathNotFound);
-  m_path = folder;
+  m_path = fromRoot(folder);
   refresh();
 }
 

@@ -91,6 +91,19 @@ TEST(DiskLists, ListTheDisk)
   EXPECT_EQ(joined(form.files.names()), "");
 }
 
+TEST(DiskLists, FoldersBeginAtTheRoot)
+{
+  const test::Scratch scratch;
+  fs::create_directories(scratch / "Mise.Eden");
+  const fs::path before = fs::current_path();
+  fs::current_path(scratch.path());
+  const std::string here = platform::currentFolder();
+  DiskForm form;
+  form.folders.setPath("Mise.Eden\\");
+  fs::current_path(before);
+  EXPECT_EQ(form.folders.path(), here + "\\Mise.Eden");
+}
+
 TEST(DiskLists, DrivesOfTheMachine)
 {
   DiskForm form;

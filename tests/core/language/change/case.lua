@@ -13,6 +13,7 @@ frmmain.seznamakci:select(1)
 local function choose(name, cancel)
   on.modal.frmloadsite = function(form)
     equal(form.cmdstorno.visible, true, "the chooser can be cancelled")
+    equal(form.Label1.visible, false, "nobody is asked for a page")
     equal(rows(form.List1), "New.lng|Test.lng", "packs alone are listed")
     for i = 0, #form.List1 - 1 do if form.List1[i].text == name then form.List1:select(i) end end
     if cancel then form.cmdstorno:click() else form.Command1:click() end
