@@ -41,7 +41,8 @@ MouseButton buttonOf(Qt::MouseButton button)
 class PictureLink : public Link
 {
 public:
-  PictureLink(Picture& field, QLabel* label) : Link(field, label), m_picture(field), m_label(label)
+  PictureLink(Picture& field, QLabel* label)
+      : Link(field, label), m_picture(field), m_label(label), m_own(label->pixmap(Qt::ReturnByValue))
   {
     if (label->minimumSize().isEmpty())
       label->setMinimumSize(1, 1); // the picture follows the place, not the place the picture
@@ -80,7 +81,7 @@ private:
     ++m_reading;
     if (m_picture.path().empty())
     {
-      m_label->setPixmap(QPixmap());
+      m_label->setPixmap(m_own);
       return;
     }
     const QString file = QString::fromStdString(platform::toNative(m_picture.path()));
@@ -151,6 +152,7 @@ private:
 
   Picture& m_picture;
   QLabel* m_label;
+  QPixmap m_own;     ///< what the look has in its place, for a field without a picture
   int m_reading = 0; ///< counts the pictures, so that a late one is dropped
 };
 

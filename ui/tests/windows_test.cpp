@@ -79,6 +79,7 @@ private slots:
   void treeKeepsItsOpenNodes();
   void diskLists();
   void typedPath();
+  void pictureOfTheLook();
   void bigPicture();
   void pagesByCharacterSet();
 };
@@ -428,6 +429,20 @@ void WindowsTest::typedPath()
   QVERIFY(frmopenmission.Dir1.path().ends_with("\\inner"));
   QCOMPARE(frmopenmission.File1.selected(), std::string("mission.sqm"));
   QCOMPARE(confirmed, 1);
+}
+
+void WindowsTest::pictureOfTheLook()
+{
+  QPixmap drawn(24, 24);
+  drawn.fill(Qt::red);
+  QLabel label;
+  label.setPixmap(drawn);
+  Page page;
+  const auto link = ui::linkPicture(page.picture, &label);
+  QCOMPARE(label.pixmap(Qt::ReturnByValue).toImage().pixelColor(5, 5), QColor(Qt::red));
+  label.resize(50, 50);
+  label.show();
+  QCOMPARE(label.pixmap(Qt::ReturnByValue).toImage().pixelColor(5, 5), QColor(Qt::red));
 }
 
 void WindowsTest::bigPicture()
