@@ -6,6 +6,7 @@
 #include "ui/binder.h"
 #include "ui/default_button.h"
 #include "ui/form_looks.h"
+#include "ui/keys_and_names.h"
 #include "ui/places.h"
 #include "ui/program_bar.h"
 
@@ -75,6 +76,14 @@ void FormWindow::make()
                            mainHeight * m_window->logicalDpiY() / twipsPerInch);
     m_bar = std::make_unique<ProgramBar>(*m_window);
   }
+  followCaptions();
+}
+
+/// Keys and names come from the captions, which another language changes.
+void FormWindow::followCaptions()
+{
+  giveKeys(*m_window);
+  giveNames(*m_window);
 }
 
 void FormWindow::formChanged(Form& form)
@@ -88,6 +97,8 @@ void FormWindow::formChanged(Form& form)
   if (!window())
     return;
   m_window->setWindowTitle(QString::fromStdString(form.caption()));
+  if (!m_window->isVisible())
+    followCaptions();
   if (m_bar)
     m_bar->follow();
   if (m_window->isVisible() || form.modal()) // a modal one is shown by exec()
@@ -109,6 +120,7 @@ void FormWindow::exec()
     return;
   dialog->hide(); // it may be on the screen already, without being modal
   dialog->setWindowTitle(QString::fromStdString(m_form.caption()));
+  followCaptions();
   place();
   dialog->exec();
 }
@@ -151,6 +163,8 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event)
 {
   if (watched != m_window.get())
     return false;
+  if (event->type() == QEvent::WindowActivate)
+    followCaptions();
   const bool escape = event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
                       qobject_cast<QDialog*>(m_window.get());
   if (event->type() != QEvent::Close && !escape)

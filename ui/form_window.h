@@ -33,6 +33,7 @@ public:
 
 private:
   void make();
+  void followCaptions();
   void place();
   void paintNow();
   bool eventFilter(QObject* watched, QEvent* event) override;

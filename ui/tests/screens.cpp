@@ -1,7 +1,7 @@
 // tarvelin-screens FOLDER MISSION [LANGUAGE ...]: pictures of every window and every tab, in those languages or in each
 // of the packs, for somebody to look at. With --filled before the FOLDER and one LANGUAGE the windows show a sample
 // mission and campaign; the missions and sounds that it takes lie beside the folder of MISSION's folder
-// (art/help-screens makes them).
+// (art/help-screens makes them). --dark is a dark desktop, --font POINTS one with another size of letters.
 
 #include "app/assemble.h"
 #include "core/desk.h"
@@ -81,6 +81,25 @@ void grabTabs(QWidget& window, const QString& file, QTabWidget* strip)
   }
 }
 
+/// A dark desktop's colours.
+QPalette darkPalette()
+{
+  QPalette palette(QColor(53, 53, 57), QColor(42, 43, 46));
+  palette.setColor(QPalette::Base, QColor(30, 31, 34));
+  palette.setColor(QPalette::AlternateBase, QColor(42, 43, 46));
+  palette.setColor(QPalette::Highlight, QColor(45, 108, 160));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::Link, QColor(110, 170, 240));
+  return palette;
+}
+
+/// Opens what a mission may show, so that the pictures have as much to hold as there can be.
+void openAll()
+{
+  for (Check* const check : {&frmmain.respawn, &frmmain.Skore, &frmmain.chkvicestran})
+    check->set(true);
+}
+
 void copyFolder(const QString& from, const QString& to)
 {
   QDir().mkpath(to);
@@ -103,6 +122,8 @@ void grabAll(const QString& folder, const QString& language, const QString& miss
   startProgram(("MISSION=" + mission).toStdString());
   if (filled)
     fillWithSample(language.toStdString());
+  else
+    openAll();
   for (Form* const form : allForms())
   {
     QWidget* const window = windows.of(*form).window();
@@ -125,18 +146,34 @@ void grabAll(const QString& folder, const QString& language, const QString& miss
 int main(int count, char** arguments)
 {
   QApplication application(count, arguments);
-  QStringList given = QApplication::arguments();
-  const bool filled = given.removeAll("--filled") != 0;
-  if (given.size() < 3 || (filled && given.size() != 4)) // the sample would be filled in a second time
+  QCommandLineParser options;
+  options.addOptions({{"filled", "a sample mission and campaign"},
+                      {"dark", "a dark desktop"},
+                      {"font", "size of the desktop's font", "points"}});
+  options.process(application);
+  const QStringList given = options.positionalArguments();
+  const bool filled = options.isSet("filled");
+  if (given.size() < 2 || (filled && given.size() != 3)) // the sample would be filled in a second time
   {
-    std::fputs("usage: tarvelin-screens FOLDER MISSION [LANGUAGE ...]\n"
+    std::fputs("usage: tarvelin-screens [--dark] [--font POINTS] FOLDER MISSION [LANGUAGE ...]\n"
                "       tarvelin-screens --filled FOLDER MISSION LANGUAGE\n",
                stderr);
     return 2;
   }
-  QDir().mkpath(given[1]);
+  if (options.isSet("dark"))
+  {
+    QApplication::setStyle("fusion");
+    QApplication::setPalette(darkPalette());
+  }
+  if (options.isSet("font"))
+  {
+    QFont font = QApplication::font();
+    font.setPointSize(options.value("font").toInt());
+    QApplication::setFont(font);
+  }
+  QDir().mkpath(given[0]);
   const QString packs = QCoreApplication::applicationDirPath() + "/Bfdata/languages/Tv";
-  QStringList languages = given.mid(3);
+  QStringList languages = given.mid(2);
   if (languages.isEmpty())
     for (const QFileInfo& pack : QDir(packs).entryInfoList({"*.lng"}))
       languages += pack.completeBaseName();
@@ -147,7 +184,7 @@ int main(int count, char** arguments)
       std::fprintf(stderr, "tarvelin-screens: no such language: %s\n", qUtf8Printable(language));
       return 1;
     }
-    grabAll(given[1], language, given[2], filled);
+    grabAll(given[0], language, given[1], filled);
   }
   return 0;
 }
