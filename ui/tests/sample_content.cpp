@@ -213,6 +213,10 @@ void fillProgramSettings()
 
 void fillSmallWindows()
 {
+  frmopen2.File1.enable(true);
+  frmopen2.File1.setPattern("*.wav*");
+  frmopen2.Dir1.userSetPath(frmnactizvuky.Dir1.path());
+  frmopen2.File1.userSelect("hlaseni.wav");
   frmabout2.load();
   frmabout2.lblcesta.setCaption("C:\\Hry\\OperationFlashpoint");
   frmabout2.lblCD.setCaption("D:");
