@@ -1,5 +1,7 @@
 #include "platform/icon_image.h"
 
+#include "platform/png_image.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -235,54 +237,28 @@ void putLittle(std::string& out, std::uint32_t value, int size)
     out += static_cast<char>(value >> 8 * i & 0xFF);
 }
 
-void putBig(std::string& out, std::uint32_t value)
+/// The mean colour of some pixels; what is transparent has no colour.
+std::uint32_t average(const IconImage& image, int left, int right, int top, int bottom)
 {
-  for (int shift = 24; shift >= 0; shift -= 8)
-    out += static_cast<char>(value >> shift & 0xFF);
+  std::uint32_t sums[4] = {}; // blue, green, red, alpha
+  for (int y = top; y < bottom; ++y)
+    for (int x = left; x < right; ++x)
+    {
+      const std::uint32_t pixel = image.pixels[static_cast<std::size_t>(y * image.width + x)];
+      for (int i = 0; i < 3; ++i)
+        sums[i] += (pixel >> 8 * i & 0xFF) * (pixel >> 24);
+      sums[3] += pixel >> 24;
+    }
+  std::uint32_t result = sums[3] / static_cast<std::uint32_t>((right - left) * (bottom - top)) << 24;
+  for (int i = 0; i < 3 && sums[3] > 0; ++i)
+    result |= (sums[i] + sums[3] / 2) / sums[3] << 8 * i;
+  return result;
 }
 
-std::uint32_t checksumOf(std::string_view bytes)
+/// A picture as icons hold it: a bitmap, or the bytes of a PNG file.
+std::optional<IconImage> iconOfData(std::string_view data)
 {
-  std::uint32_t sum = 0xFFFFFFFF;
-  for (const char c : bytes)
-  {
-    sum ^= static_cast<unsigned char>(c);
-    for (int bit = 0; bit < 8; ++bit)
-      sum = sum >> 1 ^ ((sum & 1) != 0 ? 0xEDB88320 : 0);
-  }
-  return ~sum;
-}
-
-void putChunk(std::string& out, std::string_view kind, std::string_view data)
-{
-  putBig(out, static_cast<std::uint32_t>(data.size()));
-  const std::string body = std::string(kind) + std::string(data);
-  out += body;
-  putBig(out, checksumOf(body));
-}
-
-/// A zlib stream that stores its bytes as they are: an icon is small.
-std::string stored(std::string_view bytes)
-{
-  constexpr std::size_t blockSize = 0xFFFF;
-  std::string out("\x78\x01");
-  std::uint32_t a = 1;
-  std::uint32_t b = 0;
-  for (const char c : bytes)
-  {
-    a = (a + static_cast<unsigned char>(c)) % 65521;
-    b = (b + a) % 65521;
-  }
-  for (std::size_t at = 0; at < bytes.size(); at += blockSize)
-  {
-    const std::string_view block = bytes.substr(at, blockSize);
-    out += static_cast<char>(at + block.size() == bytes.size() ? 1 : 0);
-    putLittle(out, static_cast<std::uint32_t>(block.size()), 2);
-    putLittle(out, ~static_cast<std::uint32_t>(block.size()), 2);
-    out += block;
-  }
-  putBig(out, b << 16 | a);
-  return out;
+  return data.starts_with("\x89PNG") ? imageOfPng(data) : iconOfBitmap(data);
 }
 
 } // namespace
@@ -295,7 +271,7 @@ std::optional<IconImage> executableIcon(std::string_view bytes)
   if (!resources.valid())
     return std::nullopt;
   for (const Candidate& candidate : candidatesOf(Bytes(resources.first(iconGroup)), 14))
-    if (auto image = iconOfBitmap(resources.find(icon, candidate.where)))
+    if (auto image = iconOfData(resources.find(icon, candidate.where)))
       return image;
   return std::nullopt;
 }
@@ -306,7 +282,7 @@ std::optional<IconImage> iconOfFile(std::string_view bytes)
   if (file.number(0) != 0x00010000)
     return std::nullopt;
   for (const Candidate& candidate : candidatesOf(file, 16))
-    if (auto image = iconOfBitmap(file.part(candidate.where, candidate.size)))
+    if (auto image = iconOfData(file.part(candidate.where, candidate.size)))
       return image;
   return std::nullopt;
 }
@@ -343,26 +319,17 @@ std::string bitmapBytes(const IconImage& image)
   return out;
 }
 
-std::string pngBytes(const IconImage& image)
+IconImage fitted(IconImage image, int side)
 {
-  const auto columns = static_cast<std::size_t>(image.width);
-  std::string head;
-  putBig(head, static_cast<std::uint32_t>(image.width));
-  putBig(head, static_cast<std::uint32_t>(image.height));
-  head += std::string_view("\x08\x06\0\0\0", 5); // 8 bits each of red, green, blue and alpha
-  std::string rows;
-  for (std::size_t i = 0; i < image.pixels.size(); ++i)
-  {
-    if (i % columns == 0)
-      rows += '\0'; // no filter
-    for (const int shift : {16, 8, 0, 24})
-      rows += static_cast<char>(image.pixels[i] >> shift & 0xFF);
-  }
-  std::string out("\x89PNG\r\n\x1A\n");
-  putChunk(out, "IHDR", head);
-  putChunk(out, "IDAT", stored(rows));
-  putChunk(out, "IEND", {});
-  return out;
+  const int largest = std::max(image.width, image.height);
+  if (largest <= side)
+    return image;
+  IconImage small{std::max(1, image.width * side / largest), std::max(1, image.height * side / largest), {}};
+  for (int y = 0; y < small.height; ++y)
+    for (int x = 0; x < small.width; ++x)
+      small.pixels.push_back(average(image, x * image.width / small.width, (x + 1) * image.width / small.width,
+                                     y * image.height / small.height, (y + 1) * image.height / small.height));
+  return small;
 }
 
 } // namespace tarvelin::platform

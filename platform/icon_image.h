@@ -28,7 +28,7 @@ std::optional<IconImage> iconOfFile(std::string_view bytes);
 /// A Windows bitmap with 24 bits a pixel; what is transparent shows white.
 std::string bitmapBytes(const IconImage& image);
 
-/// A PNG picture with its transparency.
-std::string pngBytes(const IconImage& image);
+/// The image made smaller, so that it fits into a square of that many pixels. A small one stays as it is.
+IconImage fitted(IconImage image, int side);
 
 } // namespace tarvelin::platform

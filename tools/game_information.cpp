@@ -1,9 +1,11 @@
 #include "tools/game_information.h"
 
+#include "core/attempt.h"
 #include "core/run_log.h"
 #include "core/shared.h"
-#include "core/strings.h"
 #include "platform/registry.h"
+
+#include <utility>
 
 namespace tarvelin
 {
@@ -13,16 +15,28 @@ namespace
 
 constexpr std::string_view gameKey = "Software\\Codemasters\\Operation Flashpoint";
 
+/// Throws 53 when the game's key or the value in it is missing.
+std::string gameValue(std::string_view name)
+{
+  auto text = platform::registryString(platform::RegistryRoot::localMachine, gameKey, name);
+  if (!text)
+    throw Failure(Fault::fileNotFound);
+  return std::move(*text);
+}
+
 } // namespace
 
 void readGame()
 {
-  using platform::RegistryRoot;
-  for (const auto& [value, target] : {std::pair{"CDDRIVE", &shared.MechanikaCD}, std::pair{"MAIN", &shared.CestaHry}})
-    if (auto text = platform::registryString(RegistryRoot::localMachine, gameKey, value))
-      *target = std::move(*text);
-    else
-      ZapisLog("Hra nebyla v registru nalezena: " + std::string(value) + std::string(crlf));
+  attempt(
+      []
+      {
+        std::string drive = gameValue("CDDRIVE");
+        shared.CestaHry = gameValue("MAIN"); // with one of them missing both stay empty
+        shared.MechanikaCD = std::move(drive);
+      },
+      [](const Failure& failure)
+      { logLine("Nastala chyba při čtení registru: " + std::string(gameKey) + ", " + failureText(failure)); });
 }
 
 } // namespace tarvelin

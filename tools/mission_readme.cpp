@@ -88,8 +88,8 @@ std::string AddonyDoTextu()
     const std::string& name = addons.text(i);
     if (addons.tag(i) != 1 || BNajdi(0, seen.count() - 1, name, seen) != -1)
       continue;
+    names += (seen.count() > 0 ? std::string(crlf) : std::string()) + name;
     seen.add(name);
-    addLine(names, name);
   }
   return names;
 }

@@ -12,7 +12,7 @@
 #include "core/shared.h"
 #include "core/strings.h"
 #include "platform/files.h"
-#include "platform/icon_image.h"
+#include "platform/program_icon.h"
 
 #include <algorithm>
 
@@ -134,8 +134,7 @@ void LoadAndSaveIcons(const std::string& executable, const std::string& name)
   step(
       [&]
       {
-        const platform::MappedFile file(executable);
-        const auto image = platform::executableIcon(file.bytes());
+        const auto image = platform::programIcon(executable);
         if (!image)
           throw Failure(Fault::invalidPicture);
         if (!platform::folderExists(programFile(iconFolder)))

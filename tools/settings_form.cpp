@@ -100,6 +100,7 @@ void cmddel_Click()
     return shared.Programy.redimPreserve(shared.PocetProgramu);
   shared.Programy.erase();
   frmsettings.cmddel.enable(false);
+  MakeProgramBar(true);
 }
 
 void seznamprogramu_Click()

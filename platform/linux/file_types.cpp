@@ -6,6 +6,7 @@
 #include "platform/icon_image.h"
 #include "platform/linux/environment.h"
 #include "platform/paths.h"
+#include "platform/png_image.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,4 +1,5 @@
 #include "platform/icon_image.h"
+#include "platform/png_image.h"
 
 #include <gtest/gtest.h>
 #include <string>

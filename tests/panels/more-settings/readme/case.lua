@@ -2,7 +2,7 @@
 start()
 open_mission(mission_folder)
 local box = frmdalsinast.txtdokument
-equal(box.text, "Mission: T53\r\nBy Karel (karel@example.org)\r\nbis_tank\r\nlod\r\n\r\nEnd\r\n", "the template, filled")
+equal(box.text, "Mission: T53\r\nBy Karel (karel@example.org)\r\nbis_tank\r\nlod\r\nEnd\r\n", "the template, filled")
 write_file(mission_folder .. "/README.TXT", ("an older readme that is longer than the new one\r\n"):rep(20))
 box.text = "Žluťoučký kůň\r\n<NAME> stays; \"so\" \xE2\x82\xAC \xE6\x97\xA5"
 frmdalsinast.Command8:click()

@@ -6,9 +6,8 @@ local function dib()
   local above = pixel(0, 0, 255) .. pixel(1, 2, 3) .. "\0\0"
   return head .. below .. above .. "\x40\0\0\0" .. "\0\0\0\0" -- below right is transparent
 end
-local function executable()
+local function executable(icon)
   local base, raw = 0x1000, 0x200
-  local icon = dib()
   local group = string.pack("<I2I2I2", 0, 1, 1) .. string.pack("<BBBBI2I2I4I2", 2, 2, 0, 0, 1, 24, #icon, 7)
   local function folder(id, target) return string.pack("<I4I4I2I2I2I2", 0, 0, 0, 0, 0, 1) .. string.pack("<I4I4", id, target) end
   local sub = 0x80000000
@@ -26,7 +25,7 @@ local function executable()
   local all = head .. pe .. optional .. section
   return all .. ("\0"):rep(raw - #all) .. resources
 end
-local exe = executable()
+local exe = executable(dib())
 write_file(work .. "/with icon.exe", exe)
 write_file(work .. "/script.bat", "echo off\r\n")
 start()
@@ -55,12 +54,47 @@ equal(listing(home .. "/Bfdata/programIcons"), "Žlutý nástroj.bmp", "nothing 
 local before = log()
 proc.LoadAndSaveIcons(path(work) .. "\\missing.exe", "x")
 contains(log():sub(#before + 1), "Chyba v LoadAndSaveIcons: 53, ", "a missing program")
-for _, size in ipairs { 0, 1, 2, 64, 100, 300, 511, 512, 530, 600, #exe - 20 } do
+local good = "Chyba v LoadAndSaveIcons: 481, Invalid picture\r\n"
+for size = 0, #exe - 1 do
   write_file(work .. "/cut.exe", exe:sub(1, size))
-  before = log()
+  frmload.log.text = ""
   proc.LoadAndSaveIcons(path(work) .. "\\cut.exe", "cut")
-  contains(log():sub(#before + 1), "Chyba v LoadAndSaveIcons: 481, ", "cut off at " .. size)
+  equal(log(), good, "cut off at " .. size)
+end
+for at = 65, #exe, 3 do -- whatever is damaged does no harm
+  write_file(work .. "/odd.exe", exe:sub(1, at - 1) .. "\xFF" .. exe:sub(at + 1))
+  proc.LoadAndSaveIcons(path(work) .. "\\odd.exe", "odd")
 end
 before = log()
 proc.LoadAndSaveIcons(path(work) .. "\\with icon.exe", "no/such/name")
 contains(log():sub(#before + 1), "Chyba v LoadAndSaveIcons: 76, ", "a name that no file can have")
+
+-- a picture packed as PNG: one pixel of colour, one transparent
+local png = ("89504e470d0a1a0a0000000d49484452000000020000000108020000007b40e8dd0000000674524e53000400050006748ec6" ..
+  "8f0000000f4944415478da636064626661650300003f001698c168130000000049454e44ae426082"):gsub("..", function(hex)
+  return string.char(tonumber(hex, 16)) end)
+want = "BM" .. string.pack("<I4I4I4", 62, 0, 54) .. string.pack("<I4i4i4I2I2I4I4i4i4I4I4", 40, 2, 1, 1, 24, 0, 8, 0, 0, 0, 0) ..
+  "\3\2\1\xFF\xFF\xFF\0\0"
+local packed = executable(png)
+write_file(work .. "/packed.exe", packed)
+proc.LoadAndSaveIcons(path(work) .. "\\packed.exe", "packed")
+equal(read_file(home .. "/Bfdata/programIcons/packed.bmp"), want, "the packed picture")
+for size = #packed - #png - 20, #packed - 1 do
+  write_file(work .. "/cut.exe", packed:sub(1, size))
+  frmload.log.text = ""
+  proc.LoadAndSaveIcons(path(work) .. "\\cut.exe", "cut")
+  equal(log(), good, "a packed one cut off at " .. size)
+end
+
+-- a native program: the icon that the desktop shows for it
+local share = make_folder(os.getenv("HOME") .. "/.local/share")
+make_folder(share .. "/applications")
+make_folder(share .. "/icons/hicolor/32x32/apps")
+write_file(work .. "/my tool", "#!/bin/sh\n")
+os.execute("chmod 755 '" .. work .. "/my tool'")
+write_file(share .. "/applications/mine.desktop", "[Desktop Entry]\nExec=\"" .. work .. "/my tool\" %F\nIcon=picture\n")
+write_file(share .. "/icons/hicolor/32x32/apps/picture.png", png)
+for i, name in ipairs {"my tool", "my tool.exe"} do
+  proc.LoadAndSaveIcons(path(work) .. "\\" .. name, "native" .. i)
+  equal(read_file(home .. "/Bfdata/programIcons/native" .. i .. ".bmp"), want, "of " .. name)
+end

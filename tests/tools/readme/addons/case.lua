@@ -25,7 +25,7 @@ addOns[]=
 {
 "single"
 };
-]], "tank\r\nship\r\njeep\r\nOutroWin -->\r\n", "each once; the list of one entry gives its header")
+]], "tank\r\nship\r\njeep\r\nOutroWin -->", "each once, none with a line end behind the last; the list of one entry gives its header")
 equal(#tmpfrm.zasobnik, 4, "the stack holds what was seen")
 equal(text [[
 class Mission
