@@ -1,6 +1,7 @@
 #include "ui/form_window.h"
 
 #include "core/forms/all_forms.h"
+#include "core/forms/frmdalsinast.h"
 #include "core/forms/frmmain.h"
 #include "ui/action.h"
 #include "ui/binder.h"
@@ -9,6 +10,7 @@
 #include "ui/keys_and_names.h"
 #include "ui/places.h"
 #include "ui/program_bar.h"
+#include "ui/title_preview.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -76,6 +78,8 @@ void FormWindow::make()
                            mainHeight * m_window->logicalDpiY() / twipsPerInch);
     m_bar = std::make_unique<ProgramBar>(*m_window);
   }
+  if (&m_form == &frmdalsinast)
+    m_preview = std::make_unique<TitlePreview>(*m_window);
   followCaptions();
 }
 

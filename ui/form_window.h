@@ -12,6 +12,7 @@ namespace tarvelin::ui
 {
 
 class ProgramBar;
+class TitlePreview;
 
 /// A form's window. It is made when the form is first shown.
 class FormWindow : public QObject, public FormObserver
@@ -42,6 +43,7 @@ private:
   std::unique_ptr<QWidget> m_window;
   std::vector<std::unique_ptr<Link>> m_links;
   std::unique_ptr<ProgramBar> m_bar;
+  std::unique_ptr<TitlePreview> m_preview;
   bool m_placed = false;
 };
 

@@ -6,8 +6,10 @@
 #include "core/installation.h"
 #include "core/program.h"
 #include "core/startup.h"
+#include "platform/program_icon.h"
 #include "ui/action.h"
 #include "ui/form_window.h"
+#include "ui/other_pictures.h"
 #include "ui/qt_desk.h"
 
 #include <QApplication>
@@ -44,6 +46,7 @@ int main(int count, char** arguments)
 
   setProgramFolder(findProgramFolder());
   assembleProgram();
+  platform::otherPictures = ui::readOtherPicture;
   ui::FormWindows windows;
   ui::QtDesk desk(windows);
   setDesk(&desk);
