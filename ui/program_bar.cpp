@@ -1,12 +1,15 @@
 #include "ui/program_bar.h"
 
 #include "core/forms/frmmain.h"
+#include "core/shared.h"
 #include "ui/binder.h"
 
-#include <QEvent>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLayout>
+#include <QPainter>
 #include <QScrollBar>
+#include <QToolTip>
 #include <algorithm>
 
 namespace tarvelin::ui
@@ -15,6 +18,26 @@ namespace
 {
 
 constexpr int iconPlace = 36; ///< an icon of 32 pixels and the room around it
+constexpr const char* indexProperty = "program";
+
+QString programName(int index)
+{
+  const bool known = index >= 1 && index - 1 <= shared.PocetProgramu;
+  return known ? QString::fromStdString(shared.Programy.at(index - 1).Nazev) : QString();
+}
+
+/// What stands for a program that has no icon: the first letter of its name.
+void paintLetter(QWidget& label, const QString& name)
+{
+  QPainter painter(&label);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF place = QRectF(label.rect()).adjusted(3.5, 3.5, -3.5, -3.5);
+  painter.setPen(label.palette().color(QPalette::Mid));
+  painter.setBrush(label.palette().button());
+  painter.drawRoundedRect(place, 4, 4);
+  painter.setPen(label.palette().color(QPalette::ButtonText));
+  painter.drawText(place, Qt::AlignCenter, name.trimmed().left(1).toUpper());
+}
 
 } // namespace
 
@@ -49,11 +72,14 @@ void ProgramBar::follow()
           label = new QLabel(m_strip); // the strip owns it
           label->setObjectName(name);
           label->setAlignment(Qt::AlignCenter);
+          label->setProperty(indexProperty, index);
         }
         label->setGeometry((index - 1) * iconPlace, 0, iconPlace, iconPlace);
         label->setFocusPolicy(Qt::StrongFocus);
         label->setCursor(Qt::PointingHandCursor);
         m_icons[index] = bindField(icon, m_window);
+        label->removeEventFilter(this);
+        label->installEventFilter(this);
       });
   layOut();
 }
@@ -69,9 +95,22 @@ void ProgramBar::layOut()
 
 bool ProgramBar::eventFilter(QObject* watched, QEvent* event)
 {
-  if (event->type() == QEvent::Resize)
-    layOut();
-  return QObject::eventFilter(watched, event);
+  if (watched == m_frame)
+  {
+    if (event->type() == QEvent::Resize)
+      layOut();
+    return false;
+  }
+  const int index = watched->property(indexProperty).toInt();
+  if (event->type() == QEvent::ToolTip)
+  {
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), programName(index));
+    return true;
+  }
+  if (event->type() != QEvent::Paint || !frmmain.Image1.has(index) || !frmmain.Image1(index).path().empty())
+    return false;
+  paintLetter(*qobject_cast<QWidget*>(watched), programName(index));
+  return true;
 }
 
 } // namespace tarvelin::ui

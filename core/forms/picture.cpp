@@ -67,6 +67,15 @@ PictureSize bitmapSize(std::string_view bytes)
   return size;
 }
 
+/// The first picture of an icon file; 0 stands for 256.
+PictureSize iconSize(std::string_view bytes)
+{
+  const auto side = [&](std::size_t at) { return byteAt(bytes, at) == 0 ? 256 : static_cast<int>(byteAt(bytes, at)); };
+  if (bigWord(bytes, 4) == 0)
+    throw Failure(Fault::invalidPicture);
+  return {side(6), side(7)};
+}
+
 } // namespace
 
 PictureSize pictureSize(std::string_view path)
@@ -77,6 +86,8 @@ PictureSize pictureSize(std::string_view path)
     return jpegSize(bytes);
   if (bytes.starts_with("BM"))
     return bitmapSize(bytes);
+  if (bytes.starts_with(std::string_view("\0\0\1\0", 4)))
+    return iconSize(bytes);
   throw Failure(Fault::invalidPicture);
 }
 

@@ -31,8 +31,8 @@ public:
   int width() const { return m_size.width; }
   int height() const { return m_size.height; }
 
-  /// Loads a JPEG or, for the program icons, a Windows bitmap. Throws 53 when it is missing, 481 when it is neither;
-  /// the picture then stays as it was.
+  /// Loads a JPEG or, for icons, a Windows bitmap or an icon file. Throws 53 when it is missing, 481 when it is none of
+  /// them; the picture then stays as it was.
   void load(std::string_view path);
 
   void clear();
@@ -61,7 +61,7 @@ private:
   int m_extent = 0;
 };
 
-/// Size of a JPEG or a Windows bitmap, read from its head. Throws 53, 481.
+/// Size of a JPEG, a Windows bitmap or an icon file, read from its head. Throws 53, 481.
 PictureSize pictureSize(std::string_view path);
 
 } // namespace tarvelin

@@ -42,6 +42,15 @@ write_file(work .. "/my icon.ico", icon)
 on.file = function() return work .. "/my icon.ico" end
 frmsettings.imgicon:click()
 equal(shared.IkonaAsociace, path(work) .. "\\my icon.ico", "the choice")
+equal(frmsettings.imgicon.path .. "|" .. frmsettings.imgicon.width .. "x" .. frmsettings.imgicon.height,
+  shared.IkonaAsociace .. "|1x1", "is shown")
+write_file(work .. "/bad.ico", "no icon")
+on.file = function() return work .. "/bad.ico" end
+frmsettings.imgicon:click()
+equal(shared.IkonaAsociace, path(work) .. "\\bad.ico", "whatever was picked is kept")
+equal(frmsettings.imgicon.path, path(work) .. "\\my icon.ico", "one that cannot be shown leaves the picture")
+on.file = function() return work .. "/my icon.ico" end
+frmsettings.imgicon:click()
 on.file = nil
 frmsettings.imgicon:click()
 equal(shared.IkonaAsociace, path(work) .. "\\my icon.ico", "cancelled: it stays")
