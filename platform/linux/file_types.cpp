@@ -256,7 +256,9 @@ std::string entryText(std::string_view handler, std::string_view extension, std:
   std::string text = "[Desktop Entry]\nType=Application\n";
   text += "Name=" + std::string(handler.substr(0, handler.rfind('.'))) + "\n";
   text += "Comment=" + std::string(verb) + "\n";
-  text += "Exec=" + execWord(nativeProgram(program)) + " %f\n";
+  const std::string native = nativeProgram(program);
+  // Some desktops look for the first word as it stands, before they make one "%" of two.
+  text += std::string("Exec=") + (native.find('%') == std::string::npos ? "" : "env ") + execWord(native) + " %f\n";
   text += "Icon=" + stemOf(handler) + "\n";
   text += "Terminal=false\nCategories=Development;\n";
   text += "MimeType=" + typeOf(extension) + ";\n";

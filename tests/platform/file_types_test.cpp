@@ -70,8 +70,13 @@ TEST(FileTypes, TheCommandIsQuoted)
   ASSERT_TRUE(setFileHandlerCommand(handler, ".sqm", "Open", user.home.path("my $tools 100%/tarvelin") + ".exe"));
   const std::string entry = user.home.bytes("data/applications/tarvelin.desktop");
   const std::string folder = user.home.native().string();
-  EXPECT_NE(entry.find("\nExec=\"" + folder + "/my \\\\$tools 100%%/tarvelin\" %f\n"), std::string::npos) << entry;
+  EXPECT_NE(entry.find("\nExec=env \"" + folder + "/my \\\\$tools 100%%/tarvelin\" %f\n"), std::string::npos) << entry;
   EXPECT_NE(entry.find("\nName=Tarvelin\n"), std::string::npos);
+  user.home.put("my tools/tarvelin", "");
+  ASSERT_TRUE(setFileHandlerCommand(handler, ".sqm", "Open", user.home.path("my tools/tarvelin") + ".exe"));
+  EXPECT_NE(
+      user.home.bytes("data/applications/tarvelin.desktop").find("\nExec=\"" + folder + "/my tools/tarvelin\" %f\n"),
+      std::string::npos);
 }
 
 TEST(FileTypes, AnotherProgramsTypeAndDefault)

@@ -142,6 +142,36 @@ class Screen:
                          chunk(b"IDAT", zlib.compress(bytes(rows), 6)) + chunk(b"IEND", b""))
 
 
+class _Adopted:
+    """A process that another one left behind, for which its subreaper waits."""
+
+    def __init__(self, pid):
+        self.pid = pid
+        self.returncode = None
+
+    def poll(self):
+        if self.returncode is None:
+            with contextlib.suppress(ChildProcessError):  # its parent is still there
+                ended, status = os.waitpid(self.pid, os.WNOHANG)
+                if ended:
+                    self.returncode = os.waitstatus_to_exitcode(status)
+        return self.returncode
+
+    def wait(self, timeout=STEP):
+        end = time.monotonic() + timeout
+        while self.poll() is None:
+            if time.monotonic() > end:
+                raise subprocess.TimeoutExpired(str(self.pid), timeout)
+            time.sleep(PAUSE)
+        return self.returncode
+
+    def terminate(self):
+        os.kill(self.pid, signal.SIGTERM)
+
+    def kill(self):
+        os.kill(self.pid, signal.SIGKILL)
+
+
 class Program:
     """The program in a folder of its own, as somebody has it who unpacked it there, with an empty home."""
 
@@ -154,6 +184,7 @@ class Program:
         self.home = self.scratch / "home"
         self.folder = self.scratch / "Tarvelin"
         self.process = None
+        self._watcher = self.scratch / "watcher.socket"
         self._caller = None
         self._asked = None
 
@@ -182,23 +213,36 @@ class Program:
     def start(self, *arguments):
         """Starts the program; returns the steady clock's time of it, in milliseconds."""
         self.close()
-        watcher = self.scratch / "watcher.socket"
-        watcher.unlink(missing_ok=True)
-        environment = self.screen.environment() | {
+        with open(self.scratch / "said", "ab") as said:
+            started = time.monotonic() * 1000
+            self.process = _spawn([str(self.folder / "tarvelin"), *map(str, arguments)], cwd=self.home,
+                                  env=self.environment(), stdout=said, stderr=said)
+        self._attend(self._alive)
+        return started
+
+    def start_through(self, *command):
+        """Starts the program by another one, such as a file manager's opener. Whoever calls this must be a subreaper."""
+        self.close()
+        with open(self.scratch / "said", "ab") as said:
+            _spawn([*map(str, command)], cwd=self.home, env=self.environment(), stdout=said, stderr=said).wait(STEP)
+        self._attend(lambda: True)
+        peer = self._caller.getsockopt(socket.SOL_SOCKET, socket.SO_PEERCRED, struct.calcsize("3i"))
+        self.process = _Adopted(struct.unpack("3i", peer)[0])
+
+    def environment(self):
+        """What the program and those that start it get."""
+        return self.screen.environment() | {
             "HOME": str(self.home), "XDG_RUNTIME_DIR": str(self.scratch / "run"),
             "XDG_CONFIG_HOME": str(self.home / ".config"), "XDG_DATA_HOME": str(self.home / ".local/share"),
             "XDG_CACHE_HOME": str(self.home / ".cache"), "QT_QPA_PLATFORM": "xcb",
-            "QT_PLUGIN_PATH": str(self.build / "watcher"), "QT_QPA_GENERIC_PLUGINS": f"watcher:{watcher}"}
-        with open(self.scratch / "said", "ab") as said:
-            started = time.monotonic() * 1000
-            self.process = _spawn([str(self.folder / "tarvelin"), *map(str, arguments)], cwd=self.home, env=environment,
-                                  stdout=said, stderr=said)
-        wait_until(lambda: self._alive() and watcher.exists(), "the watcher's socket")
+            "QT_PLUGIN_PATH": str(self.build / "watcher"), "QT_QPA_GENERIC_PLUGINS": f"watcher:{self._watcher}"}
+
+    def _attend(self, alive):
+        wait_until(lambda: alive() and self._watcher.exists(), "the watcher's socket")
         self._caller = socket.socket(socket.AF_UNIX)
         self._caller.settimeout(STEP)
-        wait_until(lambda: self._caller.connect_ex(str(watcher)) == 0, "the watcher")
+        wait_until(lambda: self._caller.connect_ex(str(self._watcher)) == 0, "the watcher")
         self._asked = self._caller.makefile("rwb")
-        return started
 
     def first_start(self, language, answers):
         """Starts the program for the first time: chooses the language pack and gives each prompt its answer by its
@@ -236,6 +280,7 @@ class Program:
         self._hang_up()
         _stop(self.process)
         self.process = None
+        self._watcher.unlink(missing_ok=True)
 
     def said(self):
         """What all runs wrote to their outputs."""
