@@ -194,6 +194,16 @@ void fillFurtherSettings()
   more.pisma.userSelect(0);
   more.cta.set("100");
   more.cba.set("0");
+  more.cmdpridat2.click();
+  more.List4.userSelect(1);
+  more.Option2.set(true);
+  more.txtnazev2.set("Obraz");
+  more.txttext.set(frmnactizvuky.Dir1.path() + "\\levie.jpg");
+  more.x.set(250);
+  more.y.set(150);
+  more.w.set(500);
+  more.h.set(333);
+  more.List4.userSelect(0);
 
   more.txtstringtable.set("STRM_Cil,\"Cíl\",\"Target\",\"Ziel\",\"Cible\",\"Bersaglio\",\"Objetivo\",\r\n");
 }
