@@ -1,4 +1,4 @@
-"""Maps of places that are nowhere: coast, contours, forests, roads, villages and a grid, 480 units wide and high.
+"""Maps of places that are nowhere: coast, contours, forests, roads, villages and a grid, 480 units wide, 840 high.
 
 The land is a field of heights, made of smooth noise and a shape that says where the sea is. All lines come from that
 field by following its level lines; every map has its own seed, so it comes out the same at every run."""
@@ -7,9 +7,9 @@ import heapq
 import math
 import random
 
-SIZE = 480
-CELLS = 96
-STEP = SIZE / CELLS
+WIDTH, HEIGHT = 480, 840
+STEP = 5
+COLUMNS, ROWS = WIDTH // STEP, HEIGHT // STEP
 MARGIN = 3  # cells beyond the frame, so that level lines close where nobody sees it
 
 SUMMER = dict(sea="#bcd5e3", shallow="#cfe2ec", shore="#5f7f93", tints=["#eef0dc", "#e7e9cc", "#e3dfb9", "#dccfa2",
@@ -22,11 +22,12 @@ WINTER = dict(sea="#c4d3de", shallow="#d6e1e9", shore="#66798a", tints=["#fbfbf8
 
 def noise(rng, waves):
     """A smooth field over the map: values of a coarse grid, blended between its points. About -1 to 1."""
-    points = [[rng.uniform(-1, 1) for _ in range(waves + 3)] for _ in range(waves + 3)]
+    high = math.ceil(waves * HEIGHT / WIDTH)
+    points = [[rng.uniform(-1, 1) for _ in range(waves + 3)] for _ in range(high + 3)]
 
     def at(x, y):
-        u, v = (x / SIZE + 0.1) / 1.2 * waves, (y / SIZE + 0.1) / 1.2 * waves
-        u, v = min(max(u, 0), waves), min(max(v, 0), waves)
+        u, v = (x / WIDTH + 0.1) / 1.2 * waves, (y / WIDTH + 0.1) / 1.2 * waves
+        u, v = min(max(u, 0), waves), min(max(v, 0), high)
         i, j = int(u), int(v)
         s, t = u - i, v - j
         s, t = s * s * (3 - 2 * s), t * t * (3 - 2 * t)
@@ -50,13 +51,13 @@ class Field:
     """Values at the corners of the cells, margin included."""
 
     def __init__(self, value):
-        self.span = CELLS + 2 * MARGIN + 1
-        self.rows = [[value((i - MARGIN) * STEP, (j - MARGIN) * STEP) for i in range(self.span)]
-                     for j in range(self.span)]
+        self.wide, self.high = COLUMNS + 2 * MARGIN + 1, ROWS + 2 * MARGIN + 1
+        self.rows = [[value((i - MARGIN) * STEP, (j - MARGIN) * STEP) for i in range(self.wide)]
+                     for j in range(self.high)]
 
     def at(self, x, y):
         i, j = x / STEP + MARGIN, y / STEP + MARGIN
-        i, j = min(max(i, 0), self.span - 1.001), min(max(j, 0), self.span - 1.001)
+        i, j = min(max(i, 0), self.wide - 1.001), min(max(j, 0), self.high - 1.001)
         a, b = int(i), int(j)
         s, t = i - a, j - b
         row, below = self.rows[b], self.rows[b + 1]
@@ -67,10 +68,10 @@ class Field:
 
     def rings(self, level):
         """Closed lines around all that is above `level`. What lies at the border of the field counts as below it."""
-        last = self.span - 1
+        right, bottom = self.wide - 1, self.high - 1
 
         def value(i, j):
-            return level - 1 if i in (0, last) or j in (0, last) else self.rows[j][i]
+            return level - 1 if i in (0, right) or j in (0, bottom) else self.rows[j][i]
 
         def crossing(p, q):
             a, b = value(*p), value(*q)
@@ -78,8 +79,8 @@ class Field:
             return ((p[0] + (q[0] - p[0]) * t - MARGIN) * STEP, (p[1] + (q[1] - p[1]) * t - MARGIN) * STEP)
 
         following, places = {}, {}
-        for j in range(last):
-            for i in range(last):
+        for j in range(bottom):
+            for i in range(right):
                 corners = [(i, j), (i + 1, j), (i + 1, j + 1), (i, j + 1)]
                 above = [value(*corner) >= level for corner in corners]
                 # Walked clockwise: a segment runs from the side where land ends to the side where it began.
@@ -146,7 +147,7 @@ def road(land, start, goal, used):
         height = land.at(here[0] * STEP, here[1] * STEP)
         for a, b in moves:
             there = (here[0] + a, here[1] + b)
-            if not (0 <= there[0] <= CELLS and 0 <= there[1] <= CELLS):
+            if not (0 <= there[0] <= COLUMNS and 0 <= there[1] <= ROWS):
                 continue
             level = land.at(there[0] * STEP, there[1] * STEP)
             if level < 0.05:
@@ -168,7 +169,7 @@ def villages(rng, land, count):
         for _ in range(600):
             if len(places) == count:
                 return places
-            x, y = rng.uniform(34, SIZE - 34), rng.uniform(34, SIZE - 34)
+            x, y = rng.uniform(34, WIDTH - 34), rng.uniform(34, HEIGHT - 34)
             if 0.1 < land.at(x, y) < 0.75 and land.slope(x, y) < 0.16 and all(
                     math.hypot(x - a, y - b) > apart for a, b in places):
                 places.append((x, y))
@@ -201,7 +202,7 @@ def houses(rng, land, place, roads):
 def summits(land, count):
     """The highest points, far from each other and from the frame."""
     found = []
-    points = sorted(((land.at(x, y), x, y) for x in range(36, SIZE - 36, 5) for y in range(36, SIZE - 36, 5)),
+    points = sorted(((land.at(x, y), x, y) for x in range(36, WIDTH - 36, 5) for y in range(36, HEIGHT - 36, 5)),
                     reverse=True)
     for height, x, y in points:
         if len(found) == count or height < 0.7:
@@ -240,15 +241,15 @@ def marks(plan, places, line):
 
 
 def draw(seed, shape, look, places=5, relief=1.0, woods=0.25, plan=()):
-    """One map. `shape` gives the lie of the land: above 0 is land, about 2 the highest hills."""
+    """One map. `shape` gives the lie of the land on a square of 480: above 0 is land, about 2 the highest hills."""
     rng = random.Random(seed)
     rough = layered(rng, 4)
     cover = layered(rng, 7, 3)
-    swell = [hill(rng.uniform(60, 420), rng.uniform(60, 420), rng.uniform(30, 70), rng.uniform(0.25, 0.8))
-             for _ in range(7)]
+    swell = [hill(rng.uniform(60, WIDTH - 60), rng.uniform(60, HEIGHT - 60), rng.uniform(30, 75),
+                  rng.uniform(0.25, 0.8)) for _ in range(12)]
 
     def height(x, y):
-        base = shape(x, y)
+        base = shape(x, y * WIDTH / HEIGHT)
         ground = base + 0.32 * rough(x, y)
         if ground <= 0:
             return ground
@@ -256,8 +257,8 @@ def draw(seed, shape, look, places=5, relief=1.0, woods=0.25, plan=()):
             sum(bump(x, y) for bump in swell) + 0.22 * (rough(y, x) + 0.5))
 
     land = Field(height)
-    parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{SIZE}" height="{SIZE}" viewBox="0 0 {SIZE} {SIZE}">',
-             f'<rect width="{SIZE}" height="{SIZE}" fill="{look["sea"]}"/>']
+    parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{WIDTH}" height="{HEIGHT}" '
+             f'viewBox="0 0 {WIDTH} {HEIGHT}"><rect width="{WIDTH}" height="{HEIGHT}" fill="{look["sea"]}"/>']
 
     coast = path_of(land.rings(0))
     for level, opacity in ((-0.34, 0.5), (-0.16, 0.6)):
@@ -275,8 +276,8 @@ def draw(seed, shape, look, places=5, relief=1.0, woods=0.25, plan=()):
     parts.append(f'<path d="{path_of(forest.rings(0))}" fill="{look["forest"]}" fill-rule="evenodd" '
                  f'stroke="{look["tree"]}" stroke-width="0.8"/>')
     trees = []
-    for y in range(6, SIZE, 9):
-        for x in range(6 + (y // 9 % 2) * 5, SIZE, 10):
+    for y in range(6, HEIGHT, 9):
+        for x in range(6 + (y // 9 % 2) * 5, WIDTH, 10):
             tx, ty = x + rng.uniform(-2, 2), y + rng.uniform(-2, 2)
             if forest.at(tx, ty) > 0.1:
                 trees.append(f'<circle cx="{tx:.1f}" cy="{ty:.1f}" r="1.7"/>')
@@ -291,7 +292,7 @@ def draw(seed, shape, look, places=5, relief=1.0, woods=0.25, plan=()):
         level += 0.12
     parts.append(f'<path d="{coast}" fill="none" stroke="{look["shore"]}" stroke-width="2"/>')
 
-    towns = villages(rng, land, places)
+    towns = villages(rng, land, places * 3 // 2)
     used, roads = set(), []
     for i, town in enumerate(towns[1:], 1):
         nearest = sorted(towns[:i], key=lambda other: math.hypot(town[0] - other[0], town[1] - other[1]))
@@ -313,19 +314,20 @@ def draw(seed, shape, look, places=5, relief=1.0, woods=0.25, plan=()):
         parts += houses(rng, land, town, roads)
     parts.append("</g>")
 
-    for top, x, y in summits(land, 4):
+    for top, x, y in summits(land, 6):
         parts += [f'<path d="M{x} {y - 4.6} L{x + 4.6} {y + 3.6} L{x - 4.6} {y + 3.6} Z" fill="#5a4630"/>',
                   f'<text x="{x + 8}" y="{y + 4}" font-family="DejaVu Sans, sans-serif" font-size="13" fill="#4a3a28">'
                   f'{round(top * 145)}</text>']
 
-    lines = "".join(f"M{at} 0 V{SIZE} M0 {at} H{SIZE} " for at in range(60, SIZE, 60))
+    lines = "".join([f"M{x} 0 V{HEIGHT} " for x in range(60, WIDTH, 60)] +
+                    [f"M0 {y} H{WIDTH} " for y in range(60, HEIGHT, 60)])
     parts.append(f'<path d="{lines}" stroke="{look["grid"]}" stroke-width="0.8" stroke-opacity="0.65"/>')
-    for i in range(8):
-        parts.append(f'<g font-family="DejaVu Sans, sans-serif" font-size="11" fill="{look["grid"]}">'
-                     f'<text x="{i * 60 + 30}" y="13" text-anchor="middle">{"ABCDEFGH"[i]}</text>'
-                     f'<text x="7" y="{i * 60 + 34}">{i + 1}</text></g>')
+    parts.append(f'<g font-family="DejaVu Sans, sans-serif" font-size="11" fill="{look["grid"]}">')
+    parts += [f'<text x="{i * 60 + 30}" y="14" text-anchor="middle">{"ABCDEFGH"[i]}</text>' for i in range(8)]
+    parts += [f'<text x="7" y="{i * 60 + 34}">{i + 1}</text>' for i in range(HEIGHT // 60)]
+    parts.append("</g>")
     parts += marks(plan, towns, roads[-1] if roads else None)
-    parts.append(f'<rect x="1.5" y="1.5" width="{SIZE - 3}" height="{SIZE - 3}" fill="none" stroke="{look["grid"]}" '
+    parts.append(f'<rect x="1.5" y="1.5" width="{WIDTH - 3}" height="{HEIGHT - 3}" fill="none" stroke="{look["grid"]}" '
                  'stroke-width="3"/>')
     return "\n".join(parts) + "\n</svg>\n"
 
