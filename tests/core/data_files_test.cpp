@@ -485,7 +485,8 @@ TEST(Fonts, AreSorted)
   expectAscending(linesOf("fonts.dat"), "fonts.dat");
 }
 
-// The titles look a font up by its beginning, so one that begins another must not be hidden by it.
+// The titles look a font up by its beginning, so one that begins another must not be hidden by it. With SteelfishB128
+// in the list the middle of its rest would be SteelfishB64CE, and SteelfishB64 could not be chosen to stay.
 TEST_F(DataInTheProgram, EveryFontIsFound)
 {
   const std::vector<std::string> fonts = linesOf("fonts.dat");
