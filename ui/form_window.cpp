@@ -173,8 +173,9 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event)
                       qobject_cast<QDialog*>(m_window.get());
   if (event->type() != QEvent::Close && !escape)
     return false;
-  event->setAccepted(escape); // a closing window stays until its form is hidden
-  act([this] { m_form.closeByUser(); });
+  event->setAccepted(escape);  // a closing window stays until its form is hidden
+  if (!pressCancel(*m_window)) // what was chosen in a picker is chosen no more
+    act([this] { m_form.closeByUser(); });
   return true;
 }
 

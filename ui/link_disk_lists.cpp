@@ -49,10 +49,19 @@ public:
             });
     connect(list, &QListWidget::itemDoubleClicked, this,
             [this] { pressDefault(*m_list); }); // a double click is OK, too
+    list->installEventFilter(this);
     begin();
   }
 
 private:
+  bool eventFilter(QObject* watched, QEvent* event) override
+  {
+    if (!isEnter(*event) || m_list->selectedItems().isEmpty())
+      return Link::eventFilter(watched, event);
+    pressDefault(*m_list);
+    return true;
+  }
+
   void choose(const QString& name)
   {
     const std::string file = name.toStdString();

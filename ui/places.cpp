@@ -9,7 +9,7 @@
 #include "ui/default_button.h"
 
 #include <QDir>
-#include <QKeyEvent>
+#include <QEvent>
 #include <QLineEdit>
 #include <QToolButton>
 #include <algorithm>
@@ -80,9 +80,7 @@ private:
   /// Enter in the line goes there; it is the window's Enter only when it named a file.
   bool eventFilter(QObject* watched, QEvent* event) override
   {
-    const bool enter = event->type() == QEvent::KeyPress && (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Return ||
-                                                             static_cast<QKeyEvent*>(event)->key() == Qt::Key_Enter);
-    if (!enter)
+    if (!isEnter(*event))
       return Link::eventFilter(watched, event);
     bool chosen = false;
     user([this, &chosen] { chosen = goToTyped(); });

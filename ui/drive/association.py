@@ -5,19 +5,15 @@ the association is taken back. All in a home of its own.
 import ctypes
 import os
 import shutil
-import signal
 import struct
 import subprocess
-import sys
 
 import author
 import drive
+from steps import DEMO, close_tips, expect, run
 
-WHOLE = 200  # seconds for all of it
 TYPE = "application/x-sqm"
 BOX = "QMessageBox"
-
-expect = author.expect
 
 
 class Installed(drive.Program):
@@ -70,7 +66,7 @@ def box(program, part, button="Return"):
 
 def settings(program):
     program.start()
-    author.close_tips(program)
+    close_tips(program)
     program.choose_menu("frmmain", "mnuNastaveni", "mnusetobec")
     program.wait_window("frmsettings")
 
@@ -105,7 +101,7 @@ def opened(program, mission, *command, desktop=None):
     """A mission opened through a tool of the desktop is open in the program."""
     prefix = ["env", f"XDG_CURRENT_DESKTOP={desktop}"] if desktop else []
     program.start_through(*prefix, *command)
-    author.close_tips(program)
+    close_tips(program)
     expect(program.window("frmmain")["title"], "Tarvelin - " + str(mission.parent).replace("/", "\\") + "\\",
            f"the title after {command[0]}")
     expect(program.widget("frmmain", "SSTab1")["enabled"], True, "pages with a mission")
@@ -145,19 +141,15 @@ def prove(program, mission):
     expect(left, [], "what is left behind")
 
 
-def main():
+def play(program):
     subreaper = 36  # PR_SET_CHILD_SUBREAPER
     ctypes.CDLL(None).prctl(subreaper, 1)
-    signal.signal(signal.SIGALRM, author.too_long)
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
-    signal.alarm(WHOLE)
-    with drive.Screen() as screen, Installed(screen, sys.argv[1]) as program:
-        mission = program.scratch / "Moje mise" / "Útok; 1.Eden" / "mission.sqm"
-        mission.parent.mkdir(parents=True)
-        shutil.copyfile(author.DEMO / "mission.sqm", mission)
-        prove(program, mission)
+    mission = program.scratch / "Moje mise" / "Útok; 1.Eden" / "mission.sqm"
+    mission.parent.mkdir(parents=True)
+    shutil.copyfile(DEMO / "mission.sqm", mission)
+    prove(program, mission)
     print("associated, opened and taken back")
 
 
 if __name__ == "__main__":
-    main()
+    run(play, Installed)

@@ -3,25 +3,13 @@
 The files under expected/ are written by hand.
 """
 
-import pathlib
-import shutil
-import signal
 import struct
-import sys
 
 import drive
-
-HERE = pathlib.Path(__file__).resolve().parent
-DEMO = HERE.parent.parent / "examples" / "Demo.Eden"
-WHOLE = 270  # seconds for all of it
+from steps import DEMO, HERE, close_tips, copy_demo, expect, run
 
 BRIEFING, OVERVIEW, NOTES, INTEL, SETTINGS, WEAPONS, SOUNDS, SCRIPTS = range(8)  # pages of SSTab1
 WEST, EAST, ADDONS, GEAR = range(4)  # pages of SSTab2
-
-
-def expect(value, wanted, what):
-    if value != wanted:
-        raise drive.Failed(f"{what}: {value!r} instead of {wanted!r}")
 
 
 def expect_files(folder, wanted, also):
@@ -50,13 +38,6 @@ def settings_file(folder):
     return (b"".join(struct.pack("<Ihh", *colour) for colour in colours) +
             text(own + "\\Bfdata\\languages\\Tv\\Czech.lng") + text(own + "\\tarvpbou.exe") + text("ZDROJ,CIL,2") +
             struct.pack("<hh", -1, -1) + text("Žofie Nováková") + text("zofie@example.org") + 3 * never_chosen)
-
-
-def close_tips(program):
-    program.wait_window("frmtips")
-    program.key("Escape")
-    program.wait_gone("frmtips")
-    program.wait_window("frmmain")
 
 
 def add_row(program, window, field, row, value):
@@ -196,24 +177,13 @@ def morning(program, mission):
         expect((mission.parent / page).read_bytes(), (HERE / "expected" / "first" / page).read_bytes(), page)
 
 
-def too_long(*_):
-    raise drive.Failed(f"the whole took longer than {WHOLE} s")
-
-
-def main():
-    signal.signal(signal.SIGALRM, too_long)
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
-    signal.alarm(WHOLE)
-    with drive.Screen() as screen, drive.Program(screen, sys.argv[1]) as program:
-        mission = program.scratch / "Mise" / "Demo.Eden" / "mission.sqm"
-        mission.parent.mkdir(parents=True)
-        shutil.copyfile(DEMO / "mission.sqm", mission)
-        evening(program, mission)
-        morning(program, mission)
-        expect(program.said(), "", "complaints of the program")
-        expect(len(list((program.folder / "Bfdata" / "LogFiles").glob("*.fec"))), 2, "logs of two runs")
+def play(program):
+    mission = copy_demo(program)
+    evening(program, mission)
+    morning(program, mission)
+    expect(len(list((program.folder / "Bfdata" / "LogFiles").glob("*.fec"))), 2, "logs of two runs")
     print("written as expected")
 
 
 if __name__ == "__main__":
-    main()
+    run(play)

@@ -408,10 +408,16 @@ class Program:
 
     def choose_menu(self, window, menu, entry):
         bar = self.wait_widget(window, "QMenuBar")
-        self.click_at(next(told for told in bar["entries"] if told["name"] == menu)["rect"])
-        entries = self.wait_widget(menu, menu)["entries"]
-        self.click_at(next(told for told in entries if told["name"] == entry)["rect"])
+        self.click_at(self._entry(bar, menu)["rect"])
+        self.click_at(self._entry(self.wait_widget(menu, menu), entry)["rect"])
         self.wait_gone(menu)
+
+    @staticmethod
+    def _entry(menu, name):
+        found = [entry for entry in menu["entries"] if entry["name"] == name]
+        if not found:
+            raise Failed(f"no {name} among {[entry['name'] for entry in menu['entries']]}")
+        return found[0]
 
     def tab_bar(self, window, strip):
         for widget in (self.window(window) or {"widgets": []})["widgets"]:
