@@ -68,7 +68,8 @@ def evening(program, mission):
     program.wait_gone("frmopenmission")
     program.wait_widget("frmmain", "SSTab1", lambda pages: pages["enabled"], "to be enabled")
     program.wait_window("frmmain")
-    expect(program.window("frmmain")["title"], "Tarvelin - " + str(mission.parent).replace("/", "\\") + "\\", "the title")
+    opened = str(mission.parent).replace("/", "\\") + "\\"
+    expect(program.window("frmmain")["title"], "Tarvelin - " + opened, "the title")
 
     program.type_text("frmmain", "txtJmenoMise", "Cesta do Levie")
     program.type_text("frmmain", "txtBriefink",
@@ -143,7 +144,8 @@ def morning(program, mission):
     close_tips(program)
     program.wait_text("frmmain", "txtJmenoMise", "Cesta do Levie")
     program.wait_text("frmmain", "txtBriefink", "Číhejte u zálohy.Žádné hrdinství!")
-    expect([row["text"] for row in program.widget("frmmain", "List1")["rows"]], ["Úkol 1", "Úkol 2"], "the objectives")
+    objectives = program.widget("frmmain", "List1")["rows"]
+    expect([row["text"] for row in objectives], ["Úkol 1", "Úkol 2"], "the objectives")
     program.select_tab("frmmain", "SSTab1", NOTES)
     program.wait_text("frmmain", "txtPoznamky", "Příliš žluťoučký kůň úpěl ďábelské ódy. ČĎŇŘŠŤŽ")
 
@@ -166,9 +168,10 @@ def morning(program, mission):
     program.wait_window("frmmain")
 
     program.select_row("frmmain", "seznamakci", "Description.ext")
-    old = (mission.parent / "Description.ext").read_bytes()
+    description = mission.parent / "Description.ext"
+    old = description.read_bytes()
     program.click("frmmain", "cmdvytvor")
-    drive.wait_until(lambda: (mission.parent / "Description.ext").read_bytes() not in (old, b""), "the new Description.ext")
+    drive.wait_until(lambda: description.read_bytes() not in (old, b""), "the new Description.ext")
     program.key("alt+F4")
     expect(program.wait_end(), 0, "the status at the end")
 

@@ -5,8 +5,8 @@
         program.wait_window("frmmain")
         program.click("frmmain", "cmdvytvor")
 
-All that is done is done by xdotool. Where to click, and what came of it, tells the watcher, a plugin in the program that
-only looks (watcher.h). A step waits until what it needs is there; it never sleeps for a fixed time.
+All that is done is done by xdotool. Where to click, and what came of it, tells the watcher, a plugin in the program
+that only looks (watcher.h). A step waits until what it needs is there; it never sleeps for a fixed time.
 """
 
 import contextlib
@@ -376,11 +376,13 @@ class Program:
         left, top, width, height = rect
         if width <= 0 or height <= 0:
             raise Failed(f"nothing to click at in {rect}")
-        self.screen.do("mousemove", left + width // 2, top + height // 2, "click", "--repeat", times, "--delay", 20, button)
+        self.screen.do("mousemove", left + width // 2, top + height // 2,
+                       "click", "--repeat", times, "--delay", 20, button)
 
     def click(self, window, name, times=1):
         """Clicks once the widget can be used."""
-        widget = self.wait_widget(window, name, lambda widget: widget["enabled"] and widget["rect"][2] > 0, "to be usable")
+        widget = self.wait_widget(window, name, lambda widget: widget["enabled"] and widget["rect"][2] > 0,
+                                  "to be usable")
         left, top, width, height = widget["rect"]
         if widget["class"] in ("QCheckBox", "QRadioButton"):
             width = min(width, 24)  # beyond its words it takes no click
