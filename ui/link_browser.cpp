@@ -3,6 +3,7 @@
 #include "platform/paths.h"
 #include "ui/links.h"
 #include "ui/page.h"
+#include "ui/page_view.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -60,6 +61,8 @@ private:
   {
     if (isWeb(address))
       return user([&] { desk().browse(address.toString(QUrl::FullyEncoded).toStdString()); });
+    if (!isOnThisMachine(address))
+      return;
     const QString file = address.isLocalFile() ? address.toLocalFile() : address.path();
     const QFileInfo target(QDir(m_folder), file);
     if (!file.isEmpty() && target.isFile())
