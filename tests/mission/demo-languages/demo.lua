@@ -1,5 +1,7 @@
--- The demo among the examples in the shipped language `language`, and once more with characters, surroundings, effects
--- and titles of the panels' default words. What is written must be a file that the game takes, whatever the language.
+-- The demo among the examples in the shipped language `language`, and once more with sounds, a character, surroundings,
+-- effects and titles, under the names that the language proposes where it does. What is written must be a file that the
+-- game takes, whatever the language.
+dofile(arg[1] .. "/campaign.lua")
 local examples = case_folder .. "/../../../../examples"
 local data = examples .. "/../Bfdata"
 assert(os.execute("cp -r '" .. data .. "' '" .. home .. "'"))
@@ -22,6 +24,14 @@ local description = folder .. "/Description.ext"
 local first = read_file(description)
 contains(first, "//Konec souboru\r\n", "the demo's own file")
 
+local media = examples .. "/media"
+take_sounds(frmmain.cmdnacistradio, media, "callsign.ogg")
+take_sounds(frmmain.cmdnacistzvuk, media, "callsign.ogg")
+take_sounds(frmmain.cdmnactihudbu, media, "nocturne.ogg")
+-- the demo's own records are still highlighted and took the proposed names as well: they get names anew
+for _, field in ipairs{"txtjmenoradia", "txtjmenozvuku", "txtjmenohudby"} do
+  frmmain[field].text = "Own"
+end
 Form2.cmdadd:click()
 Form2.chkpouzithrace.value = 1
 frmmain.mnudalsizvuky:click()
@@ -50,6 +60,9 @@ d.Option2.value = true
 frmmain.cmdvytvor:click()
 
 local second = read_file(description)
+contains(second, "    class " .. shared.Texty[57] .. "2\r\n", "the proposed name of a radio message")
+contains(second, "    class " .. shared.Texty[59] .. "2\r\n", "of a sound")
+contains(second, "    class " .. shared.Texty[61] .. "2\r\n", "of music")
 for _, part in ipairs{"class CfgIdentities\r\n{\r\n    class ", "class RscText\r\n{\r\n   type=0;", "class RscPicture\r\n{\r\n   type=0;",
   "      class Words: RscText\r\n", "      class Photo: RscPicture\r\n", "   class Birds\r\n"} do
   contains(second, part, language)
