@@ -120,6 +120,11 @@ class Screen:
         if done.returncode != 0:
             raise Failed(f"xdotool {' '.join(map(str, arguments))}: {done.stderr.strip()}")
 
+    def focused(self):
+        """The window that the screen sends the keys to."""
+        told = self._tool("getwindowfocus", "-f").stdout.strip()
+        return int(told) if told.isdigit() else 0
+
     def screenshot(self, path):
         """The whole screen as a PNG, from the memory of the screen itself."""
         data = (pathlib.Path(self._folder.name) / "Xvfb_screen0").read_bytes()
@@ -323,8 +328,12 @@ class Program:
         """Waits until the window is painted and takes the keys."""
         def there():
             window = self.window(name)
-            return window if window and window["painted"] and (window["active"] or not active) else None
+            return window if window and window["painted"] and (not active or self._takes_keys(window)) else None
         return wait_until(there, f"window {name}")
+
+    def _takes_keys(self, window):
+        """The window has the keys in the eyes of the program and of the screen; they differ while windows come and go."""
+        return window is not None and window["active"] and self.screen.focused() == window["id"]
 
     def wait_gone(self, name):
         wait_until(lambda: self.window(name) is None, f"window {name} to go")
@@ -354,7 +363,8 @@ class Program:
         self.wait_widget(window, name, lambda widget: widget.get("checked") == checked, f"to be {checked}")
 
     def wait_focus(self, window, name):
-        self.wait_widget(window, name, lambda widget: widget["focus"], "to have the keys")
+        self.wait_widget(window, name, lambda widget: widget["focus"] and self._takes_keys(self.window(window)),
+                         "to have the keys")
 
     # What a person does.
 

@@ -169,6 +169,7 @@ QJsonObject titleOf(const QWidget& window)
           {"class", window.metaObject()->className()},
           {"title", window.windowTitle()},
           {"rect", rectangle(window.geometry())},
+          {"id", static_cast<qint64>(window.internalWinId())},
           {"active", window.isActiveWindow()},
           {"modal", window.isModal()},
           {"painted", window.property("watcher_painted").toDouble()}};
