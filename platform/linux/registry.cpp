@@ -184,8 +184,8 @@ std::string fileOf(RegistryRoot root)
   return toProgram(winePrefix() + (root == RegistryRoot::currentUser ? "/user.reg" : "/system.reg"));
 }
 
-// False for most of the keys that do not begin as one of the places does, told without unescaping them: a prefix has
-// hundreds of thousands of keys.
+// False for most of the keys and names that do not begin as the wanted one does, told without unescaping them: a prefix
+// has hundreds of thousands of them.
 bool mayBeAt(std::string_view place, std::string_view line, std::size_t at)
 {
   for (const char wanted : place)
@@ -227,8 +227,13 @@ template <typename Visit> void forEachKey(RegistryRoot root, const std::vector<s
 std::optional<std::string> stringBelow(std::string_view rest, std::string_view name)
 {
   while (!rest.empty() && rest.front() != '[')
-    if (auto text = stringOfLine(nextLine(rest), name))
+  {
+    const std::string_view line = nextLine(rest);
+    if (line.starts_with('"') && !mayBeAt(name, line, 1))
+      continue;
+    if (auto text = stringOfLine(line, name))
       return text;
+  }
   return std::nullopt;
 }
 
