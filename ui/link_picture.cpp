@@ -44,8 +44,8 @@ public:
   PictureLink(Picture& field, QLabel* label)
       : Link(field, label), m_picture(field), m_label(label), m_own(label->pixmap(Qt::ReturnByValue))
   {
-    if (label->minimumSize().isEmpty())
-      label->setMinimumSize(1, 1); // the picture follows the place, not the place the picture
+    label->setMinimumSize(
+        label->minimumSize().expandedTo(QSize(1, 1))); // the picture follows its place, not the place it
     if (field.onClick)
     {
       label->setCursor(Qt::PointingHandCursor);

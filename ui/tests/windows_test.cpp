@@ -7,6 +7,7 @@
 #include "core/forms/frmabout2.h"
 #include "core/forms/frmmain.h"
 #include "core/forms/frmopenmission.h"
+#include "core/shared.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "ui/action.h"
@@ -134,10 +135,20 @@ void WindowsTest::programsBar()
   QCOMPARE(started, programs);
 
   const auto* const frame = window->findChild<QLabel*>("Picture1");
+  QVERIFY2(frame->height() >= last->height(), qPrintable(QString::number(frame->height())));
   const auto right = [&] { return last->mapTo(frame, last->rect().bottomRight()).x(); };
   QVERIFY(right() > frame->width());
   frmmain.HScroll1.set(500); // its end is the strip's end
   QVERIFY(right() < frame->width());
+
+  // a program without an icon has the first letter of its name
+  shared.Programy.redim(programs - 1);
+  shared.PocetProgramu = programs - 1;
+  const QImage nameless = last->grab().toImage();
+  shared.Programy.at(programs - 1).Nazev = "žába";
+  QVERIFY(last->grab().toImage() != nameless);
+  shared.Programy.erase();
+  shared.PocetProgramu = -1;
 
   frmmain.Image1.unload(programs);
   QVERIFY(last->isHidden());
