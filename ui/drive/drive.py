@@ -332,7 +332,7 @@ class Program:
         return wait_until(there, f"window {name}")
 
     def _takes_keys(self, window):
-        """The window has the keys in the eyes of the program and of the screen; they differ while windows come and go."""
+        """The window has the keys, says the program and says the screen: they differ while windows come and go."""
         return window is not None and window["active"] and self.screen.focused() == window["id"]
 
     def wait_gone(self, name):
@@ -373,6 +373,10 @@ class Program:
 
     def key(self, *keys):
         self.screen.do("key", "--delay", 2, *keys)
+
+    def key_held(self, held, key):
+        """Presses a key while another is held until after it."""
+        self.screen.do("keydown", held, "key", key, "keyup", held)
 
     def type_keys(self, text):
         """Types to whatever has the keys."""

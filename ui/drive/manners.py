@@ -102,6 +102,22 @@ def open_again(program, mission):
         program.wait_text("frmmain", "txtJmenoMise", "Uživatelská mise" if answer == "click" else "Rozepsaná mise")
 
 
+def insert_tags(program):
+    """Ctrl and a letter append a tag, also where the toolkit has a use of its own for the keys."""
+    for field in ("txtBriefink", "txtUkol"):
+        for letter, tag in (("b", "<BR>"), ("u", "<U></U>"), ("t", "<B></B>"), ("a", '<A href="marker:sklad">sem</A>')):
+            program.type_text("frmmain", field, "Tudy")
+            program.key_held("ctrl", letter)
+            for answer in ("sklad", "sem") if letter == "a" else ():
+                program.wait_text("QInputDialog", "QLineEdit", "")
+                program.wait_focus("QInputDialog", "QLineEdit")
+                program.type_keys(answer)
+                program.wait_text("QInputDialog", "QLineEdit", answer)
+                program.key("Return")
+            program.wait_text("frmmain", field, "Tudy" + tag)
+            program.wait_window("frmmain")
+
+
 def pick_sounds(program, folder):
     """A double click takes a sound at once; what was added before it comes along; Esc takes nothing."""
     folder.mkdir()
@@ -137,6 +153,7 @@ def play(program):
     close_tips(program)
     pick_mission(program, mission)
     open_again(program, mission)
+    insert_tags(program)
     for menu, entry, window, default in MENUS:
         program.choose_menu("frmmain", menu, entry)
         leave_with_escape(program, window, default)
