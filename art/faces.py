@@ -161,7 +161,8 @@ def hair_front(looks):
                 f'fill="{shade(colour, 1.14)}"/>']
     if style == "mop":
         return [f'<path d="M{left - 3} 60 C{left - 9} 10 {right + 9} 10 {right + 3} 60 C{right} 52 {right - 2} 46 '
-                f'{right - 5} 41 C80 46 75 44 73 38 C70 44 65 44 62 38 C58 44 53 45 {left + 6} 40 C{left + 2} 48 {left} 54 '
+                f'{right - 5} 41 C80 46 75 44 73 38 C70 44 65 44 62 38 C58 44 53 45 {left + 6} 40 C{left + 2} 48 '
+                f'{left} 54 '
                 f'{left - 3} 60 Z" fill="{colour}"/>']
     if style in ("curly", "pixie"):
         radius, rings = (7.4, 11) if style == "curly" else (6, 9)
@@ -194,7 +195,8 @@ def features(looks, rng):
     for side in (-1, 1):
         x = 64 + side * apart
         parts += [f'<ellipse cx="{x}" cy="56" rx="4.6" ry="3.2" fill="#fdfcf8"/>',
-                  f'<circle cx="{x}" cy="56" r="2.5" fill="{iris}"/>', f'<circle cx="{x}" cy="56" r="1.3" fill="#17130f"/>',
+                  f'<circle cx="{x}" cy="56" r="2.5" fill="{iris}"/>', f'<circle cx="{x}" cy="56" r="1.3" '
+                  f'fill="#17130f"/>',
                   f'<circle cx="{x - 0.9}" cy="55" r="0.8" fill="#ffffff"/>',
                   f'<path d="M{x - 5} 55.6 C{x - 3} 52 {x + 3} 52 {x + 5} 55.6" stroke="{shade(skin, 0.38)}" '
                   f'stroke-width="{1.9 if woman_here else 1.4}" fill="none" stroke-linecap="round"/>']
@@ -213,7 +215,8 @@ def features(looks, rng):
                      f'fill-opacity="{0.28 if woman_here else 0.17}"/>')
     mouth = 76.5
     if woman_here:
-        parts += [f'<path d="M57 {mouth} C60 {mouth - 2} 62 {mouth - 2} 64 {mouth - 1} C66 {mouth - 2} 68 {mouth - 2} 71 '
+        parts += [f'<path d="M57 {mouth} C60 {mouth - 2} 62 {mouth - 2} 64 {mouth - 1} C66 {mouth - 2} 68 '
+                  f'{mouth - 2} 71 '
                   f'{mouth} C68 {mouth + 4.4} 60 {mouth + 4.4} 57 {mouth} Z" fill="#b9504a"/>',
                   f'<path d="M57 {mouth} C61 {mouth + 1.4} 67 {mouth + 1.4} 71 {mouth}" stroke="#7d2f2b" fill="none"/>']
     elif looks["number"] % 3 == 1:
@@ -228,7 +231,8 @@ def features(looks, rng):
 def beard(looks):
     kind, colour, w, chin, jaw = looks["beard"], looks["colour"], looks["wide"], looks["chin"], looks["jaw"]
     left, right = 64 - w, 64 + w
-    full = (f"M{left} 56 C{left + 1} 70 {64 - jaw - 5} {chin + 2} 64 {chin + 3} C{64 + jaw + 5} {chin + 2} {right - 1} 70 "
+    full = (f"M{left} 56 C{left + 1} 70 {64 - jaw - 5} {chin + 2} 64 {chin + 3} C{64 + jaw + 5} {chin + 2} "
+            f"{right - 1} 70 "
             f"{right} 56 C{right - 3} 66 {right - 7} 71 74 71.6 C70 70 58 70 54 71.6 C{left + 7} 71 {left + 3} 66 "
             f"{left} 56 Z")
     if kind == "stubble":
@@ -240,9 +244,11 @@ def beard(looks):
         return [f'<path d="M52.5 76 C54 71 60 70 64 72 C68 70 74 71 75.5 76 C71 74.4 68 74.4 64 74.8 C60 74.4 57 74.4 '
                 f'52.5 76 Z" fill="{colour}"/>']
     if kind == "goatee":
-        return [f'<path d="M57 {chin - 7} C60 {chin - 8.4} 68 {chin - 8.4} 71 {chin - 7} C71 {chin + 1} 68 {chin + 4} 64 '
+        return [f'<path d="M57 {chin - 7} C60 {chin - 8.4} 68 {chin - 8.4} 71 {chin - 7} C71 {chin + 1} 68 '
+                f'{chin + 4} 64 '
                 f'{chin + 4} C60 {chin + 4} 57 {chin + 1} 57 {chin - 7} Z" fill="{colour}"/>',
-                f'<path d="M54 75 C58 71.4 62 71.6 64 72.6 C66 71.6 70 71.4 74 75" stroke="{colour}" stroke-width="2.2" '
+                f'<path d="M54 75 C58 71.4 62 71.6 64 72.6 C66 71.6 70 71.4 74 75" stroke="{colour}" '
+                f'stroke-width="2.2" '
                 'fill="none" stroke-linecap="round"/>']
     if kind == "sideburns":
         return [f'<path d="M{left} 50 L{left + 0.4} 66 L{left + 5.4} 70 L{left + 4} 50 Z M{right} 50 L{right - 0.4} 66 '
@@ -291,7 +297,8 @@ def headgear(looks, rng):
     colour = looks["clothes"][0] if looks["clothes"][2] not in ("stripes", "knit") else "#59663c"
     if kind == "helmet":
         colour = ["#5b6640", "#6f6a48", "#4d5548"][looks["number"] % 3]
-        dome = f"M{left - 5} 47 C{left - 8} 4 {right + 8} 4 {right + 5} 47 C{right - 6} 42 {left + 6} 42 {left - 5} 47 Z"
+        dome = (f"M{left - 5} 47 C{left - 8} 4 {right + 8} 4 {right + 5} 47 C{right - 6} 42 {left + 6} 42 {left - 5} "
+                f"47 Z")
         net = "".join(f'<path d="M{x} 4 L{x + 22} 50 M{x + 22} 4 L{x} 50"/>' for x in range(18, 100, 11))
         return [f'<clipPath id="dome"><path d="{dome}"/></clipPath><path d="{dome}" fill="{colour}"/>',
                 f'<g clip-path="url(#dome)" stroke="{shade(colour, 0.82)}" stroke-width="0.9" fill="none">{net}</g>',
@@ -316,7 +323,8 @@ def headgear(looks, rng):
     if kind == "boonie":
         return [f'<path d="M{left} 38 C{left + 1} 10 {right - 1} 10 {right} 38 Z" fill="{colour}"/>',
                 f'<path d="M{left} 32 C50 28 78 28 {right} 32 L{right} 38 L{left} 38 Z" fill="{shade(colour, 0.66)}"/>',
-                f'<path d="M{left - 15} 45 C{left - 4} 33 {right + 4} 33 {right + 15} 45 C{right} 43 {left} 43 {left - 15} '
+                f'<path d="M{left - 15} 45 C{left - 4} 33 {right + 4} 33 {right + 15} 45 C{right} 43 {left} 43 '
+                f'{left - 15} '
                 f'45 Z" fill="{shade(colour, 0.88)}" stroke="{shade(colour, 0.6)}" stroke-width="0.9"/>']
     if kind == "furcap":
         fur = ["#6d6a66", "#5a4632", "#8b7b64"][looks["number"] % 3]
@@ -337,7 +345,8 @@ def headgear(looks, rng):
                 ribs]
     if kind == "sidecap":
         colour = ["#6e7350", "#4d5b6b"][looks["number"] % 2]
-        return [f'<path d="M{left} 37 C{left + 4} 20 52 14 68 12 C80 16 {right - 1} 24 {right} 37 C80 30 50 31 {left} 37 Z" '
+        return [f'<path d="M{left} 37 C{left + 4} 20 52 14 68 12 C80 16 {right - 1} 24 {right} 37 C80 30 50 31 '
+                f'{left} 37 Z" '
                 f'fill="{colour}"/>',
                 f'<path d="M{left} 38 C50 31 80 30 {right} 38 L{right - 2} 29 C80 23 50 24 {left + 2} 30 Z" '
                 f'fill="{shade(colour, 0.82)}"/>', '<circle cx="64" cy="28" r="2.6" fill="#c23b2e" stroke="#d8b65a"/>']
@@ -350,11 +359,13 @@ def headgear(looks, rng):
                 '<circle cx="55" cy="79" r="2.6" fill="#2b2f33"/>']
     if kind == "band":
         colour = ["#7a2b26", "#3e4a2c", "#20252a"][looks["number"] % 3]
-        return [f'<path d="M{left} 41 C50 34 78 34 {right} 41 L{right} 46 C78 39.6 50 39.6 {left} 46 Z" fill="{colour}"/>',
+        return [f'<path d="M{left} 41 C50 34 78 34 {right} 41 L{right} 46 C78 39.6 50 39.6 {left} 46 Z" '
+                f'fill="{colour}"/>',
                 f'<path d="M{right - 1} 41 L{right + 8} 38 L{right + 6} 44 L{right + 10} 49 L{right} 46 Z" '
                 f'fill="{shade(colour, 0.8)}"/>']
     if kind == "scarf":
-        return [f'<path d="M{left - 2} 50 C{left - 7} 8 {right + 7} 8 {right + 2} 50 C{right - 4} 38 76 31 64 31 C52 31 '
+        return [f'<path d="M{left - 2} 50 C{left - 7} 8 {right + 7} 8 {right + 2} 50 C{right - 4} 38 76 31 64 31 '
+                f'C52 31 '
                 f'{left + 4} 38 {left - 2} 50 Z" fill="#b5473c"/>',
                 "".join(f'<circle cx="{x}" cy="{y}" r="1.7" fill="#f3e3c4"/>'
                         for x, y in [(48, 30), (56, 23), (64, 18), (64, 27), (72, 23), (80, 30), (43, 39), (85, 39)])]
@@ -375,7 +386,8 @@ def portrait(looks):
     neck = 9.5 if looks["woman"] else 12
     parts += [f'<path d="M{64 - neck} 74 V98 C{64 - neck} 108 {64 + neck} 108 {64 + neck} 98 V74 Z" fill="{dark}"/>']
     parts += clothes(looks, rng)
-    parts += [f'<path d="M{64 - neck} 84 V99 C{60 - neck} 100 60 113 64 112 C68 113 {68 + neck} 100 {64 + neck} 99 V84 Z" '
+    parts += [f'<path d="M{64 - neck} 84 V99 C{60 - neck} 100 60 113 64 112 C68 113 {68 + neck} 100 {64 + neck} 99 '
+              f'V84 Z" '
               f'fill="{dark}"/>']
     for side in (-1, 1):
         x = 64 + side * (w + 0.6)

@@ -144,19 +144,23 @@ std::set<std::string> knownOf(std::string_view place)
 
 } // namespace
 
-void expectDescriptionsTaken(std::string_view place, const fs::path& folder)
+int expectDescriptionsTaken(std::string_view place, const fs::path& folder)
 {
   const std::set<std::string> known = knownOf(place);
   std::set<std::string> found;
+  int checked = 0;
   for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
   {
     if (!entry.is_regular_file() || entry.path().extension() != ".ext")
       continue;
     const std::string text = readBytes(entry.path());
-    if (isGenerated(text))
-      check(text, known, found);
+    if (!isGenerated(text))
+      continue;
+    check(text, known, found);
+    ++checked;
   }
   EXPECT_EQ(found, known) << place << " is known for what it does not write";
+  return checked;
 }
 
 void expectDescriptionTaken(std::string_view text)
