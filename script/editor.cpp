@@ -6,6 +6,7 @@
 #include "core/forms/frmmain.h"
 #include "core/forms/frmnajit.h"
 #include "core/forms/frmrejstrik.h"
+#include "core/run_log.h"
 #include "core/shared.h"
 #include "core/strings.h"
 #include "core/text_file.h"
@@ -17,6 +18,13 @@ namespace tarvelin
 namespace
 {
 
+/// Logs what befell a script's file.
+auto logged(std::string_view what, const std::string& path)
+{
+  return [what, path](const Failure& failure)
+  { ZapisLog(std::string(what) + path + ", " + failureText(failure) + std::string(crlf)); };
+}
+
 void skript_Change()
 {
   if (shared.PovolBarvy != 0 && shared.Nastaveni.UkazovatBarvy != 0)
@@ -27,9 +35,10 @@ void otevreneskripty_Click()
 {
   const FileList& files = frmmain.otevreneskripty;
   const std::string path = files.path() + "/" + files.selected();
+  const BulkChange bulk(frmmain.skript); // it is shown with its colours at once
   shared.PovolBarvy = 0;
   frmmain.skript.set("");
-  attempt([&] { NactiSkript(path, frmmain.skript); });
+  attempt([&] { NactiSkript(path, frmmain.skript); }, logged("Nastala chyba při načítání skriptu z: ", path));
   if (shared.Nastaveni.UkazovatBarvy != 0)
     ObarviSkript(frmmain.skript);
   shared.CestaSkriptu = path;
@@ -51,7 +60,8 @@ void cmdsave_Click()
       return;
     shared.CestaSkriptu = shared.CestaMise + "/" + *name + ".sqs";
   }
-  attempt([] { UlozText(shared.CestaSkriptu, frmmain.skript.text()); });
+  attempt([] { UlozText(shared.CestaSkriptu, frmmain.skript.text()); },
+          logged("Nastala chyba při ukládání skriptu do: ", shared.CestaSkriptu));
   frmmain.otevreneskripty.refresh();
 }
 

@@ -34,6 +34,14 @@ protected:
   /// True while the widget follows the field: its signals are then not the user's.
   bool updating() const { return m_updating > 0; }
 
+  /// Brings the widget to the field's state: nothing of it is the user's.
+  template <class Step> void quietly(Step&& step)
+  {
+    ++m_updating;
+    step();
+    --m_updating;
+  }
+
   /// Runs a user's action, unless the widget only follows the field.
   template <class Action> void user(Action&& action)
   {

@@ -1,10 +1,12 @@
 // Text fields of one line and of many.
+#include "ui/colours.h"
 #include "ui/edit_link.h"
 #include "ui/links.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <cstring>
 
 namespace tarvelin::ui
 {
@@ -117,7 +119,7 @@ std::unique_ptr<Link> linkText(Text& field, QWidget* widget)
     return std::make_unique<LineLink>(field, line);
   if (auto* const edit = qobject_cast<QPlainTextEdit*>(widget))
   {
-    auto link = std::make_unique<EditLink<QPlainTextEdit>>(field, edit);
+    auto link = std::make_unique<EditLink>(field, edit);
     link->start();
     return link;
   }

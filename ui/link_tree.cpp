@@ -1,10 +1,12 @@
 // Trees.
 #include "ui/item_mouse.h"
 #include "ui/links.h"
+#include "ui/tree_filter.h"
 
 #include <QHash>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QTreeWidget>
 #include <iterator>
 
@@ -15,6 +17,9 @@ namespace
 
 /// In the look of a form: arrow keys only move the highlight, Enter and blank are the click.
 constexpr const char* clickByEnter = "clickByEnter";
+
+/// In the look of a form: the name of the tree that a line of text searches.
+constexpr const char* filterOf = "filterOf";
 
 /// The icons of the nodes, by their index from 1.
 constexpr const char* icons[] = {":/icons/chapter.svg", ":/icons/mission.svg"};
@@ -49,6 +54,12 @@ public:
             });
     connect(tree, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) { expanded(item, true); });
     connect(tree, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) { expanded(item, false); });
+    for (QLineEdit* const line : tree->window()->findChildren<QLineEdit*>())
+      if (line->property(filterOf).toString() == tree->objectName())
+      {
+        m_filter = std::make_unique<TreeFilter>(*line, *tree);
+        m_filter->onChange = [this] { quietly([this] { showFound(); }); };
+      }
     begin();
   }
 
@@ -106,11 +117,22 @@ private:
       m_items.insert(node, item.get());
       above->addChild(item.release()); // the tree owns it
     }
-    for (const Tree::Node* const node : m_nodes.nodes())
-      if (node->expanded)
-        m_items.value(node)->setExpanded(true);
+    showFound();
     m_tree->setUpdatesEnabled(true);
     showSelected();
+  }
+
+  /// Nodes are open as the field has them, but for those on the way to what the filter found.
+  void showFound()
+  {
+    if (m_stale)
+      return;
+    for (const Tree::Node* const node : m_nodes.nodes())
+      m_items.value(node)->setExpanded(node->expanded);
+    if (m_filter)
+      m_filter->apply();
+    if (m_tree->currentItem())
+      m_tree->scrollToItem(m_tree->currentItem());
   }
 
   void showSelected()
@@ -141,6 +163,7 @@ private:
   QTreeWidget* m_tree;
   ItemMouse m_mouse;
   QHash<const Tree::Node*, QTreeWidgetItem*> m_items;
+  std::unique_ptr<TreeFilter> m_filter;
   bool m_stale = false;
   bool m_ownExpansion = false;
 };

@@ -67,6 +67,7 @@ struct FieldChange
   std::size_t first = 0;
   std::size_t removed = 0;
   std::size_t added = 0;
+  std::string_view gone = {}; ///< of a splice: what was removed; only while it is told
 };
 
 /// A view of a field: told of each change after it happened.

@@ -1,6 +1,9 @@
 #include "core/forms/rich_text.h"
 
+#include "core/strings.h"
+
 #include <algorithm>
+#include <utility>
 
 namespace tarvelin
 {
@@ -43,18 +46,35 @@ TextStyle RichText::styleAt(std::size_t position) const
   return m_runs[runOf(position)].style;
 }
 
+/// The runs of `count` characters from `start`, counted from there.
+std::vector<RichText::Run> RichText::runsIn(std::size_t start, std::size_t count) const
+{
+  std::vector<Run> runs;
+  if (count == 0 || m_runs.empty())
+    return runs;
+  for (std::size_t run = runOf(start); run < m_runs.size() && m_runs[run].start < start + count; ++run)
+    runs.push_back({std::max(m_runs[run].start, start) - start, m_runs[run].style});
+  return runs;
+}
+
 void RichText::setStyle(std::size_t start, std::size_t count, const TextStyle& style)
 {
   start = std::min(start, length());
-  count = std::min(count, length() - start);
-  if (count == 0)
+  std::size_t end = start + std::min(count, length() - start);
+  if (start == end)
     return;
-  const std::size_t current = runOf(start);
-  const std::size_t currentEnd = current + 1 < m_runs.size() ? m_runs[current + 1].start : length();
-  if (m_runs[current].style == style && start + count <= currentEnd)
+  // Only what does not look so already is a change.
+  for (std::size_t run = runOf(start); start < end && m_runs[run].style == style; ++run)
+    start = run + 1 < m_runs.size() ? std::min(end, m_runs[run + 1].start) : end;
+  if (start == end)
     return;
+  for (std::size_t run = runOf(end - 1); m_runs[run].style == style; --run)
+    end = m_runs[run].start;
+  count = end - start;
+  if (m_steps && m_steps->open() && !m_quiet)
+    m_steps->add({start, {{}, count, runsIn(start, count)}, {{}, count, {{0, style}}}});
   const std::size_t first = split(start);
-  const std::size_t behind = split(start + count);
+  const std::size_t behind = split(end);
   m_runs[first].style = style;
   m_runs.erase(m_runs.begin() + static_cast<std::ptrdiff_t>(first) + 1,
                m_runs.begin() + static_cast<std::ptrdiff_t>(behind));
@@ -70,23 +90,129 @@ void RichText::setStyled(std::string_view text, std::vector<Run> runs)
   const bool same = copy == this->text();
   {
     const BulkChange bulk(*this);
+    StyledChange change;
     if (!same)
-      splice(0, length(), copy);
+      change = replaceText(copy);
     m_runs = std::move(runs);
     std::erase_if(m_runs, [this](const Run& run) { return run.start >= length(); });
     joinAround(0, m_runs.size());
     notify({Change::style, 0, 0, length()});
+    if (!same && m_steps && m_steps->joinLast())
+    {
+      change.after.runs = runsIn(change.start, change.after.length);
+      m_steps->add(std::move(change));
+      m_steps->end(selStart());
+    }
+    else if (!same && m_steps)
+      m_steps->clear();
   }
   if (!same && onChange)
     onChange();
 }
 
-void RichText::spliced(std::size_t start, std::size_t removed, std::size_t added)
+/// Replaces what is different in another text, and tells what it was.
+StyledChange RichText::replaceText(std::string_view now)
 {
+  const std::string_view old = text();
+  const std::size_t shorter = std::min(old.size(), now.size());
+  const auto starts = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; };
+  std::size_t head = static_cast<std::size_t>(
+      std::mismatch(old.begin(), old.begin() + static_cast<std::ptrdiff_t>(shorter), now.begin()).first - old.begin());
+  while (head > 0 && head < old.size() && !starts(old[head])) // no half characters
+    --head;
+  std::size_t tail = 0;
+  while (tail < shorter - head && old[old.size() - 1 - tail] == now[now.size() - 1 - tail])
+    ++tail;
+  while (tail > 0 && !starts(old[old.size() - tail]))
+    --tail;
+  StyledChange change;
+  change.start = tarvelin::length(old.substr(0, head));
+  change.before.text = old.substr(head, old.size() - head - tail);
+  change.before.length = tarvelin::length(change.before.text);
+  change.before.runs = runsIn(change.start, change.before.length);
+  change.after.text = now.substr(head, now.size() - head - tail);
+  change.after.length = tarvelin::length(change.after.text);
+  const bool quiet = std::exchange(m_quiet, true);
+  splice(change.start, change.before.length, change.after.text);
+  m_quiet = quiet;
+  return change;
+}
+
+void RichText::keepSteps()
+{
+  if (!m_steps)
+    m_steps = std::make_unique<EditSteps>();
+}
+
+void RichText::editBegins(const FieldChange& edit, std::string_view added)
+{
+  if (m_steps)
+    m_steps->begin(edit.first, edit.removed, added, selStart(), selLength());
+}
+
+void RichText::editEnds()
+{
+  if (m_steps)
+    m_steps->end(selStart());
+}
+
+/// Puts one piece in the place of another, as a step had it.
+void RichText::put(std::size_t start, const StyledPiece& before, const StyledPiece& after, bool looksOnly)
+{
+  if (!looksOnly)
+    splice(start, before.length, after.text);
+  for (std::size_t run = 0; run < after.runs.size(); ++run)
+  {
+    const std::size_t end = run + 1 < after.runs.size() ? after.runs[run + 1].start : after.length;
+    setStyle(start + after.runs[run].start, end - after.runs[run].start, after.runs[run].style);
+  }
+}
+
+void RichText::undo()
+{
+  if (!canUndo())
+    return;
+  m_quiet = true;
+  const EditStep step = m_steps->takeBack();
+  for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change)
+    put(change->start, change->after, change->before, change->looksOnly());
+  m_quiet = false;
+  select(step.selStart, step.selLength);
+}
+
+void RichText::redo()
+{
+  if (!canRedo())
+    return;
+  m_quiet = true;
+  const EditStep step = m_steps->makeAgain();
+  for (const StyledChange& change : step.changes)
+    put(change.start, change.before, change.after, change.looksOnly());
+  m_quiet = false;
+  select(step.caret, 0);
+}
+
+void RichText::spliced(const FieldChange& splice)
+{
+  if (m_steps && !m_quiet)
+  {
+    if (m_steps->open())
+      m_steps->add({splice.first,
+                    {std::string(splice.gone), splice.removed, runsIn(splice.first, splice.removed)},
+                    {part(splice.first, splice.added), splice.added, {{0, m_typing}}}});
+    else
+      m_steps->clear();
+  }
+  moveRuns(splice);
+}
+
+/// What comes in takes the typing style; the runs behind move.
+void RichText::moveRuns(const FieldChange& splice)
+{
+  const auto [what, start, removed, added, gone] = splice;
   const std::size_t oldLength = length() - added + removed;
   if (m_runs.empty() && oldLength > 0)
     m_runs.push_back({});
-  // What comes in takes the typing style; the runs behind move.
   std::vector<Run>& runs = m_runs;
   const auto behindIn = [&runs](std::size_t position)
   {

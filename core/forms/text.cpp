@@ -83,10 +83,14 @@ void Text::userType(std::string_view text)
 void Text::userEdit(std::size_t start, std::size_t removed, std::string_view added)
 {
   const std::string copy(added);
+  const std::size_t addedLength = tarvelin::length(copy);
   start = std::min(start, length());
-  splice(start, std::min(removed, length() - start), copy);
-  select(start + tarvelin::length(copy), 0);
+  removed = std::min(removed, length() - start);
+  editBegins({Change::text, start, removed, addedLength}, copy);
+  splice(start, removed, copy);
+  select(start + addedLength, 0);
   changed();
+  editEnds();
 }
 
 void Text::userKey(const KeyEvent& key)
@@ -99,13 +103,14 @@ void Text::splice(std::size_t start, std::size_t removed, std::string_view added
 {
   const std::size_t from = m_index.offset(m_text, start);
   const std::size_t to = m_index.offset(m_text, start + removed);
+  const std::string gone = m_text.substr(from, to - from);
   m_text.replace(from, to - from, added);
-  const std::size_t addedLength = tarvelin::length(added);
-  m_index.spliced(start, removed, addedLength);
-  spliced(start, removed, addedLength);
+  const FieldChange change{Change::text, start, removed, tarvelin::length(added), gone};
+  m_index.spliced(start, removed, change.added);
+  spliced(change);
   m_selStart = std::min(m_selStart, length());
   m_selLength = std::min(m_selLength, length() - m_selStart);
-  notify({Change::text, start, removed, addedLength});
+  notify(change);
 }
 
 void Text::changed()

@@ -72,7 +72,11 @@ protected:
   void splice(std::size_t start, std::size_t removed, std::string_view added);
 
   /// For kinds that keep something beside each character.
-  virtual void spliced(std::size_t /*start*/, std::size_t /*removed*/, std::size_t /*added*/) {}
+  virtual void spliced(const FieldChange& /*splice*/) {}
+
+  /// A user's edit is about to be made; `editEnds` comes when its change handler has run.
+  virtual void editBegins(const FieldChange& /*edit*/, std::string_view /*added*/) {}
+  virtual void editEnds() {}
 
 private:
   void changed();

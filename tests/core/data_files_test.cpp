@@ -317,11 +317,12 @@ TEST(WordCatalogue, HoldsEachWordOnce)
   expectDistinct(words, "edit.dat");
 }
 
-// A blank ends a word of a script and a ";" begins a comment, so such words would never be looked up.
+// A blank ends a word of a script and a ";" begins a comment, so such words would never be looked up. Names of actions
+// have blanks all the same: they are there for the index.
 TEST(WordCatalogue, HoldsWordsThatTheEditorLooksUp)
 {
   for (const CatalogueWord& word : catalogueWords())
-    EXPECT_EQ(word.text.find_first_of(" ;"), std::string::npos) << word.text;
+    EXPECT_EQ(word.text.find_first_of(word.heading == "ACTIONKON" ? ";" : " ;"), std::string::npos) << word.text;
 }
 
 TEST_F(DataInTheProgram, TheTreeShowsEveryCommand)

@@ -2,7 +2,12 @@
 // echo.
 
 #include "core/forms/form.h"
+#include "core/forms/frmrejstrik.h"
 #include "core/forms/rich_text.h"
+#include "core/settings.h"
+#include "core/shared.h"
+#include "script/colouring.h"
+#include "ui/code_edit.h"
 #include "ui/colours.h"
 #include "ui/links.h"
 #include "ui/text_positions.h"
@@ -10,6 +15,7 @@
 #include <QtTest>
 #include <QtWidgets>
 #include <ctime>
+#include <random>
 
 using namespace tarvelin;
 
@@ -55,6 +61,14 @@ private slots:
   void fontIsShown();
   void stylesArePainted();
   void stylesMoveWithTheText();
+  void nothingIsColouredOffTheScreen();
+  void undoTakesTheColouringWithIt();
+  void menuTakesBack();
+  void caretAndPlaceStay();
+  void numbersOfLines();
+  void longLine();
+  void anyEditsAgree();
+  void charactersNobodyShows();
   void megabyte();
 };
 
@@ -287,8 +301,9 @@ namespace
 {
 
 /// What is painted over a block: "start-length:colour" with b and i.
-QString painted(const QTextEdit& edit, int block)
+QString painted(ui::CodeEdit& edit, int block)
 {
+  edit.formatShown();
   QStringList parts;
   for (const QTextLayout::FormatRange& range : edit.document()->findBlockByNumber(block).layout()->formats())
     parts += QString("%1-%2:%3%4%5")
@@ -305,33 +320,279 @@ QString painted(const QTextEdit& edit, int block)
 void TextsTest::stylesArePainted()
 {
   Page page;
-  QTextEdit edit;
+  ui::CodeEdit edit;
+  edit.resize(600, 400);
   const auto link = ui::linkRichText(page.rich, &edit);
   page.rich.setStyled("? alive\r\nhint \"x\"",
                       {{0, {0x0000FF, true, false}}, {1, {}}, {9, {0xC00000, false, true}}, {13, {}}});
-  QCoreApplication::processEvents();
   QCOMPARE(edit.toPlainText(), QString("? alive\nhint \"x\""));
   QCOMPARE(painted(edit, 0), QString("0-1:#ff0000b"));
   QCOMPARE(painted(edit, 1), QString("0-4:#0000c0i"));
   page.rich.setStyle(14, 3, {0x0000FF, false, false});
-  QCoreApplication::processEvents();
   QCOMPARE(painted(edit, 1), QString("0-4:#0000c0i 5-3:#ff0000"));
 }
 
 void TextsTest::stylesMoveWithTheText()
 {
   Page page;
-  QTextEdit edit;
+  ui::CodeEdit edit;
+  edit.resize(600, 400);
   const auto link = ui::linkRichText(page.rich, &edit);
   page.rich.setStyled("one\r\ntwo", {{0, {}}, {5, {0x0000FF, false, false}}});
-  QCoreApplication::processEvents();
   QCOMPARE(painted(edit, 1), QString("0-3:#ff0000"));
   edit.moveCursor(QTextCursor::Start);
   QTest::keyClick(&edit, Qt::Key_Return);
-  QCoreApplication::processEvents();
   QCOMPARE(page.rich.text(), std::string("\r\none\r\ntwo"));
   QCOMPARE(painted(edit, 1), QString());
   QCOMPARE(painted(edit, 2), QString("0-3:#ff0000"));
+}
+
+void TextsTest::nothingIsColouredOffTheScreen()
+{
+  Page page;
+  ui::CodeEdit edit;
+  edit.resize(600, 300);
+  const auto link = ui::linkRichText(page.rich, &edit);
+  std::string text;
+  for (int i = 0; i < 1000; ++i)
+    text += "doMove\r\n";
+  page.rich.setStyled(text, {{0, {0x0000FF, false, false}}});
+  QCOMPARE(painted(edit, 0), QString("0-6:#ff0000"));
+  QCOMPARE(painted(edit, 900), QString());
+  edit.verticalScrollBar()->setValue(900);
+  QCOMPARE(painted(edit, 900), QString("0-6:#ff0000"));
+}
+
+namespace
+{
+
+/// A script that is coloured while it is typed.
+struct Script : Page
+{
+  Script()
+  {
+    shared = {};
+    setDefaultSettings();
+    shared.PovolBarvy = -1;
+    frmrejstrik.seznam.clear();
+    frmrejstrik.seznam.add("doMove", 3);
+    frmrejstrik.seznam.add("and", 2);
+    rich.onChange = [this]
+    {
+      if (shared.PovolBarvy != 0)
+        colourTyped(rich);
+    };
+    edit.resize(600, 400);
+    link = ui::linkRichText(rich, &edit);
+  }
+  ~Script() override
+  {
+    link.reset();
+    frmrejstrik.seznam.clear();
+  }
+  void undo() { QTest::keyClick(&edit, Qt::Key_Z, Qt::ControlModifier); }
+  void redo() { QTest::keyClick(&edit, Qt::Key_Y, Qt::ControlModifier); }
+
+  ui::CodeEdit edit;
+  std::unique_ptr<ui::Link> link;
+};
+
+} // namespace
+
+void TextsTest::undoTakesTheColouringWithIt()
+{
+  Script script;
+  QTest::keyClicks(&script.edit, "x DOMOVE");
+  QCOMPARE(script.edit.toPlainText(), QString("x DOMOVE"));
+  QTest::keyClick(&script.edit, Qt::Key_Space);
+  QCOMPARE(script.edit.toPlainText(), QString("x doMove "));
+  QCOMPARE(script.edit.textCursor().position(), 9);
+  QCOMPARE(painted(script.edit, 0), QString("2-6:#0000ffb"));
+  QTest::keyClicks(&script.edit, "AND");
+  QTest::keyClick(&script.edit, Qt::Key_Return);
+  QCOMPARE(script.edit.toPlainText(), QString("x doMove and\n"));
+  script.undo();
+  QCOMPARE(script.edit.toPlainText(), QString("x doMove "));
+  QCOMPARE(painted(script.edit, 0), QString("2-6:#0000ffb"));
+  script.undo(); // the word, its spelling and its colour are one step
+  QCOMPARE(script.edit.toPlainText(), QString("x "));
+  QCOMPARE(painted(script.edit, 0), QString());
+  script.redo();
+  QCOMPARE(script.edit.toPlainText(), QString("x doMove "));
+  QCOMPARE(painted(script.edit, 0), QString("2-6:#0000ffb"));
+  QCOMPARE(script.edit.textCursor().position(), 9);
+
+  script.edit.moveCursor(QTextCursor::Start);
+  QTest::keyClick(&script.edit, Qt::Key_Semicolon); // the line is a comment now
+  QCOMPARE(painted(script.edit, 0), QString("0-10:#00ff00i"));
+  script.undo();
+  QCOMPARE(painted(script.edit, 0), QString("2-6:#0000ffb"));
+
+  ObarviSkript(script.rich); // colours are no step
+  script.undo();
+  QCOMPARE(script.edit.toPlainText(), QString("x "));
+  script.rich.set("another script");
+  script.undo();
+  QCOMPARE(script.edit.toPlainText(), QString("another script"));
+  QCOMPARE(script.rich.text(), std::string("another script"));
+}
+
+void TextsTest::menuTakesBack()
+{
+  Script script;
+  script.edit.show();
+  QTest::keyClicks(&script.edit, "AND ");
+  for (const int entry : {0, 1})
+  {
+    QTimer::singleShot(50, qApp,
+                       [entry]
+                       {
+                         auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                         QVERIFY(menu && menu->actions().at(entry)->isEnabled());
+                         menu->actions().at(entry)->trigger();
+                         menu->close();
+                       });
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), script.edit.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&script.edit, &event);
+    QCOMPARE(script.rich.text(), std::string(entry == 0 ? "" : "and "));
+  }
+}
+
+void TextsTest::caretAndPlaceStay()
+{
+  Script script;
+  std::string text;
+  for (int i = 0; i < 500; ++i)
+    text += "DOMOVE one two\r\n";
+  shared.PovolBarvy = 0;
+  script.rich.set(text);
+  shared.PovolBarvy = -1;
+  script.rich.select(260 * 16 + 3, 4);
+  script.edit.verticalScrollBar()->setValue(255);
+  ObarviSkript(script.rich);
+  QCOMPARE(script.edit.toPlainText().left(16), QString("doMove one two\nd"));
+  QCOMPARE(script.edit.verticalScrollBar()->value(), 255);
+  QCOMPARE(script.edit.textCursor().selectedText(), QString("ove "));
+  QCOMPARE(painted(script.edit, 256), QString("0-6:#0000ffb"));
+}
+
+void TextsTest::numbersOfLines()
+{
+  Script script;
+  script.rich.set("one\r\n" + std::string(3 * ui::ShownPlaces::longestRow, 'x') + "\r\nthree");
+  QList<int> numbers;
+  for (QTextBlock block = script.edit.document()->begin(); block.isValid(); block = block.next())
+    numbers += script.edit.onNumber(block);
+  QCOMPARE(numbers, QList<int>({1, 2, 0, 0, 0, 0, 0, 3}));
+}
+
+namespace
+{
+
+/// The document without the ends of rows that go on.
+QString withoutRows(const ui::CodeEdit& edit)
+{
+  QString text;
+  for (QTextBlock block = edit.document()->begin(); block.isValid(); block = block.next())
+  {
+    if (block.blockNumber() > 0 && edit.onNumber(block) > 0)
+      text += u'\n';
+    text += block.text();
+  }
+  return text;
+}
+
+} // namespace
+
+void TextsTest::longLine()
+{
+  Script script;
+  const int length = 5'000'000;
+  script.rich.set(std::string(length, 'x') + "\r\nlast");
+  QVERIFY(script.edit.blockCount() > 1000);
+  script.edit.moveCursor(QTextCursor::End);
+  QTest::keyClick(&script.edit, Qt::Key_Up);
+  QTest::keyClick(&script.edit, Qt::Key_End);
+  QTest::keyClick(&script.edit, Qt::Key_Y);
+  QCOMPARE(script.rich.length(), std::size_t{length + 7});
+  QCOMPARE(script.rich.part(length - 1, 4), std::string("xy\r\n"));
+  QTextCursor caret = script.edit.textCursor();
+  caret.setPosition(ui::ShownPlaces::rowLength + 1); // the second row's start
+  script.edit.setTextCursor(caret);
+  QCOMPARE(script.edit.textCursor().columnNumber(), 0);
+  QCOMPARE(script.rich.selStart(), std::size_t{ui::ShownPlaces::rowLength});
+  QTest::keyClick(&script.edit, Qt::Key_Backspace); // two rows become one; nothing else is gone
+  QCOMPARE(script.rich.length(), std::size_t{length + 7});
+  QCOMPARE(script.edit.onNumber(script.edit.document()->findBlockByNumber(1)), 0);
+  script.edit.insertPlainText("é");
+  QCOMPARE(script.rich.part(ui::ShownPlaces::rowLength - 1, 3), std::string("xéx"));
+  QCOMPARE(withoutRows(script.edit), ui::shownText(script.rich.text()));
+  script.edit.insertPlainText(QString(100'000, u'z'));
+  QCOMPARE(script.rich.length(), std::size_t{length + 100'008});
+  for (QTextBlock block = script.edit.document()->begin(); block.isValid(); block = block.next())
+    QVERIFY(block.length() - 1 <= ui::ShownPlaces::longestRow);
+  QCOMPARE(withoutRows(script.edit), ui::shownText(script.rich.text()));
+}
+
+void TextsTest::anyEditsAgree()
+{
+  std::mt19937 random(3);
+  const auto upTo = [&random](int limit) { return std::uniform_int_distribution<int>(0, limit)(random); };
+  const QString longPart(ui::ShownPlaces::longestRow, u'w');
+  const QStringList pieces = {"a",          "\n", "ž", " ",        "DOMOVE ", ";", "\U0001F600",
+                              "b\nAND c\n", "",   "", longPart, longPart,  "",  "\t"};
+  Script script;
+  shared.PovolBarvy = -1;
+  for (int i = 0; i < 400; ++i)
+  {
+    const int length = script.edit.document()->characterCount() - 1;
+    QTextCursor cursor = script.edit.textCursor();
+    cursor.setPosition(upTo(length));
+    cursor.setPosition(std::min(length, cursor.position() + upTo(upTo(9) == 0 ? 9000 : 3)), QTextCursor::KeepAnchor);
+    script.edit.setTextCursor(cursor);
+    const std::string piece = pieces[upTo(static_cast<int>(pieces.size()) - 1)].toStdString();
+    switch (upTo(9))
+    {
+    case 0: script.rich.replaceSelection(piece); break;
+    case 1: ObarviSkript(script.rich); break;
+    case 2: script.undo(); break;
+    case 3: script.redo(); break;
+    case 4: script.rich.userEdit(static_cast<std::size_t>(upTo(length)), 2, piece + "\r"); break;
+    case 5: script.rich.append(piece); break;
+    default: script.edit.insertPlainText(QString::fromStdString(piece));
+    }
+    QCOMPARE(withoutRows(script.edit), ui::shownText(script.rich.text()));
+    cursor = script.edit.textCursor();
+    cursor.setPosition(upTo(script.edit.document()->characterCount() - 1));
+    if (cursor.position() > 0 && script.edit.document()->characterAt(cursor.position()).isLowSurrogate())
+      continue;
+    script.edit.setTextCursor(cursor);
+    const QTextBlock block = cursor.block();
+    int rows = 0;
+    for (QTextBlock before = block; before.isValid() && before.blockNumber() > 0; before = before.previous())
+      rows += script.edit.onNumber(before) == 0 ? 1 : 0;
+    QCOMPARE(script.rich.selStart(), ui::charactersBefore(script.rich.text(), cursor.position() - rows));
+    QCOMPARE(script.edit.textCursor().position(), cursor.position());
+  }
+}
+
+void TextsTest::charactersNobodyShows()
+{
+  Script script;
+  shared.PovolBarvy = 0;
+  std::string text = "a";
+  for (const char* const odd : {"\xC2\xA0", "\xEF\xB7\x90", "\xE2\x80\xA8", "\xEF\xBF\xBC", "\x01", "\x7F", "\xC2\x81"})
+    text += odd;
+  text += '\0';
+  text += "z";
+  script.rich.set(text);
+  script.edit.moveCursor(QTextCursor::End);
+  QTest::keyClick(&script.edit, Qt::Key_X);
+  QCOMPARE(script.rich.text(), text + "x");
+  script.rich.setStyled(text + "xy", {}); // told as a whole
+  QCOMPARE(script.edit.document()->characterCount() - 1, 12);
+  QTest::keyClick(&script.edit, Qt::Key_X);
+  QCOMPARE(script.rich.text(), text + "xxy");
 }
 
 void TextsTest::megabyte()
