@@ -19,5 +19,4 @@ void Jazyky();
 /// Fills a combo with the six languages of spoken texts, tags 1 to 6, and selects the first.
 void fillSpokenLanguages(Combo& combo);
 
-
 } // namespace tarvelin

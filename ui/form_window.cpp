@@ -100,13 +100,23 @@ void FormWindow::formChanged(Form& form)
   }
   if (!window())
     return;
-  m_window->setWindowTitle(QString::fromStdString(form.caption()));
+  const QString caption = QString::fromStdString(form.caption());
+  const bool renamed = m_window->windowTitle() != caption;
+  m_window->setWindowTitle(caption);
   if (!m_window->isVisible())
     followCaptions();
-  if (m_bar)
-    m_bar->follow();
-  if (m_window->isVisible() || form.modal()) // a modal one is shown by exec()
+  const bool refilled = m_bar && m_bar->follow();
+  if (form.modal()) // it is shown by exec()
     return;
+  if (m_window->isVisible())
+  {
+    if (!renamed && !refilled) // shown once more: it takes the focus
+    {
+      m_window->raise();
+      m_window->activateWindow();
+    }
+    return;
+  }
   place();
   m_window->show();
 }

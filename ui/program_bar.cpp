@@ -57,11 +57,11 @@ ProgramBar::ProgramBar(QWidget& window)
 
 ProgramBar::~ProgramBar() = default;
 
-void ProgramBar::follow()
+bool ProgramBar::follow()
 {
-  std::erase_if(m_icons, [](const auto& entry) { return !entry.second->field(); });
+  bool changed = std::erase_if(m_icons, [](const auto& entry) { return !entry.second->field(); }) > 0;
   frmmain.Image1.each(
-      [this](Picture& icon, int index)
+      [this, &changed](Picture& icon, int index)
       {
         if (index == 0 || m_icons.contains(index))
           return;
@@ -80,8 +80,10 @@ void ProgramBar::follow()
         m_icons[index] = bindField(icon, m_window);
         label->removeEventFilter(this);
         label->installEventFilter(this);
+        changed = true;
       });
   layOut();
+  return changed;
 }
 
 /// The strip is as wide as its icons; the scroll bar takes it from one end to the other.

@@ -19,8 +19,8 @@ public:
   explicit ProgramBar(QWidget& window);
   ~ProgramBar() override;
 
-  /// Icons came or went: each that is there gets its widget.
-  void follow();
+  /// Icons may have come or gone: each that is there gets its widget. True when there were some.
+  bool follow();
 
 private:
   void layOut();

@@ -539,8 +539,8 @@ void TextsTest::anyEditsAgree()
   std::mt19937 random(3);
   const auto upTo = [&random](int limit) { return std::uniform_int_distribution<int>(0, limit)(random); };
   const QString longPart(ui::ShownPlaces::longestRow, u'w');
-  const QStringList pieces = {"a",          "\n", "ž", " ",        "DOMOVE ", ";", "\U0001F600",
-                              "b\nAND c\n", "",   "", longPart, longPart,  "",  "\t"};
+  const QStringList pieces = {"a",          "\n", "ž", " ",      "DOMOVE ", ";", "\U0001F600",
+                              "b\nAND c\n", "",   "",  longPart, longPart,  "",  "\t"};
   Script script;
   shared.PovolBarvy = -1;
   for (int i = 0; i < 400; ++i)

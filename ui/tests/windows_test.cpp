@@ -77,7 +77,9 @@ private slots:
   void listUnderTheMouse();
   void listByKeys();
   void thousandRows();
+  void shownAgainTakesTheFocus();
   void treeKeepsItsOpenNodes();
+  void treeIsSearchedByTyping();
   void diskLists();
   void typedPath();
   void pictureOfTheLook();
@@ -369,6 +371,80 @@ void WindowsTest::treeKeepsItsOpenNodes()
   emit tree.itemClicked(tree.topLevelItem(0)->child(0), 0);
   QVERIFY(page.tree.selected());
   QCOMPARE(page.tree.selected()->key, std::string("A2"));
+}
+
+void WindowsTest::treeIsSearchedByTyping()
+{
+  Page page;
+  for (const char* const heading : {"Units", "Groups"})
+  {
+    page.tree.add("", heading, heading);
+    for (const char* const group : {"Face", "Orders"})
+      page.tree.add(heading, std::string(heading) + group, group);
+  }
+  page.tree.add("UnitsFace", "1", "unit setFace \"Face1\"");
+  page.tree.add("UnitsFace", "2", "unit setMimic \"Smile\"");
+  page.tree.add("GroupsOrders", "3", "grp move pos");
+  page.tree.setExpanded("Groups", true);
+  QWidget window;
+  QLineEdit line(&window);
+  line.setProperty("filterOf", "tree");
+  QTreeWidget tree(&window);
+  tree.setObjectName("tree");
+  tree.setProperty("clickByEnter", true);
+  std::string clicked;
+  page.tree.onClick = [&] { clicked += page.tree.selected()->key; };
+  const auto link = ui::linkTree(page.tree, &tree);
+  window.show();
+  const auto shown = [&tree]
+  {
+    QStringList texts;
+    for (QTreeWidgetItemIterator item(&tree, QTreeWidgetItemIterator::NotHidden); *item; ++item)
+      texts += (*item)->text(0);
+    return texts.join('|');
+  };
+  QTest::keyClicks(&line, "SETM");
+  QCOMPARE(shown(), QString("Units|Face|unit setMimic \"Smile\""));
+  QVERIFY(tree.topLevelItem(0)->isExpanded());
+  QVERIFY(!page.tree.find("Units")->expanded); // the field keeps its own
+  line.clear();
+  QCOMPARE(shown().count('|'), 8);
+  QVERIFY(!tree.topLevelItem(0)->isExpanded());
+  QVERIFY(tree.topLevelItem(1)->isExpanded());
+  QTest::keyClicks(&line, "face"); // a heading brings all that is below it
+  QCOMPARE(shown(), QString("Units|Face|unit setFace \"Face1\"|unit setMimic \"Smile\"|Groups|Face"));
+  line.setText("units  smile");
+  QCOMPARE(shown(), QString("Units|Face|unit setMimic \"Smile\""));
+  line.setText("smile move");
+  QCOMPARE(shown(), QString());
+  QTest::keyClick(&line, Qt::Key_Down);
+  QTest::keyClick(&line, Qt::Key_Escape);
+  QCOMPARE(line.text(), QString());
+  line.setText("move");
+  QTest::keyClick(&line, Qt::Key_Return);
+  QCOMPARE(tree.currentItem()->text(0), QString("grp move pos"));
+  QCOMPARE(clicked, std::string()); // only highlighted
+  QTest::keyClick(&tree, Qt::Key_Return);
+  QCOMPARE(clicked, std::string("3"));
+  page.tree.add("GroupsOrders", "4", "remove");
+  page.tree.add("GroupsOrders", "5", "stop");
+  QCoreApplication::processEvents();
+  QCOMPARE(shown(), QString("Groups|Orders|grp move pos|remove"));
+}
+
+void WindowsTest::shownAgainTakesTheFocus()
+{
+  ui::FormWindows windows;
+  frmmain.show();
+  const QWidget* const main = windows.of(frmmain).window();
+  frmabout2.show();
+  QTRY_COMPARE(QApplication::activeWindow(), windows.of(frmabout2).window());
+  frmmain.setCaption("Another");
+  frmmain.Image1.load(1);
+  QCoreApplication::processEvents();
+  QCOMPARE(QApplication::activeWindow(), windows.of(frmabout2).window());
+  frmmain.show();
+  QTRY_COMPARE(QApplication::activeWindow(), main);
 }
 
 void WindowsTest::diskLists()
