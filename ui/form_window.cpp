@@ -110,7 +110,7 @@ void FormWindow::formChanged(Form& form)
     return;
   if (m_window->isVisible())
   {
-    if (!renamed && !refilled) // shown once more: it takes the focus
+    if (!renamed && !refilled && QApplication::activeWindow()) // shown once more: it takes the focus
     {
       m_window->raise();
       m_window->activateWindow();
