@@ -121,7 +121,7 @@ QList<QWidget*> walk(QWidget& window)
     way += at;
     QTest::keyClick(at, Qt::Key_Tab);
     QWidget* next = QApplication::focusWidget();
-    if (next == at && qobject_cast<QTextEdit*>(at)) // an editor of scripts keeps Tab for itself
+    if (next == at && qobject_cast<QPlainTextEdit*>(at)) // an editor of scripts keeps Tab for itself
     {
       do
         next = next->nextInFocusChain();
