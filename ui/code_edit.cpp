@@ -177,7 +177,7 @@ void CodeEdit::paintNumbers(const QRect& area)
     if (const int number = top + height >= area.top() ? numberOf(block) : 0; number > 0)
     {
       painter.setPen(palette().color(block.blockNumber() == caret ? QPalette::WindowText : QPalette::PlaceholderText));
-      painter.drawText(QRectF(0, top, m_numbers->width() - margin, height), Qt::AlignRight | Qt::AlignVCenter,
+      painter.drawText(QRectF(0, top, m_numbers->width() - margin, height), Qt::AlignRight | Qt::AlignTop,
                        QString::number(number));
     }
     top += height;
