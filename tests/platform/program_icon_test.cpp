@@ -178,7 +178,7 @@ TEST_F(ProgramIcon, BadEntries)
 {
   entry("a.desktop", "Exec=\nIcon=x\n");
   entry("b.desktop", "Exec=\"tool\nIcon=../../x\n");
-  entry("tool.desktop", std::string("\xFF\0\n=\n[Desktop Entry\nExec\nExec=tool\nIcon=\n", 45));
+  entry("tool.desktop", std::string("\xFF\0", 2) + "\n=\n[Desktop Entry\nExec\nExec=tool\nIcon=\n");
   home.put("system/applications/folder.desktop/x", "");
   EXPECT_EQ(colour(), 0U);
 }
