@@ -357,18 +357,16 @@ TEST_F(LanguageFiles, TokensAndTagsCanBeFound)
   }
 }
 
-// The game's classes have names of plain letters; the field of a character's name takes nothing else.
-TEST_F(LanguageFiles, BaseNamesOfClassesArePlainLetters)
+TEST_F(LanguageFiles, BaseNamesOfClassesAreOneWord)
 {
   for (const Pack& pack : m_packs)
   {
-    for (const int name : {57, 59, 61, 88})
-    {
-      const std::string& word = pack.line(name);
-      EXPECT_TRUE(std::all_of(word.begin(), word.end(),
-                              [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }))
-          << pack.at(name);
-    }
+    for (const int name : {57, 59, 61})
+      EXPECT_EQ(pack.line(name).find(' '), std::string::npos) << pack.at(name);
+    const std::string& profile = pack.line(88); // the field that it goes to takes Latin letters alone
+    EXPECT_TRUE(std::all_of(profile.begin(), profile.end(),
+                            [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }))
+        << pack.at(88);
   }
 }
 
@@ -427,6 +425,10 @@ TEST_F(LanguageFiles, CzechDefaultTextsAreThoseOfTheForms)
     ASSERT_NE(field, nullptr) << form << "." << name;
     EXPECT_EQ(czech.line(number), trim(field->caption())) << form << "." << name;
   }
+  const std::vector<std::pair<int, std::string_view>> numbered{
+      {57, "txtjmenoradia"}, {59, "txtjmenozvuku"}, {61, "txtjmenohudby"}};
+  for (const auto& [number, name] : numbered)
+    EXPECT_EQ(czech.line(number) + "1", findForm("frmmain")->find(name)->caption()) << name;
 }
 
 TEST_F(LanguageFiles, MessagesAreSentences)

@@ -32,6 +32,9 @@ take_sounds(frmmain.cdmnactihudbu, media, "nocturne.ogg")
 for _, field in ipairs{"txtjmenoradia", "txtjmenozvuku", "txtjmenohudby"} do
   frmmain[field].text = "Own"
 end
+-- Czech proposes "Rádio", as its authors have always known it, but a class wants plain letters
+frmmain.seznamradia:select(1)
+frmmain.txtjmenoradia.text = "Radio2"
 Form2.cmdadd:click()
 Form2.chkpouzithrace.value = 1
 frmmain.mnudalsizvuky:click()
@@ -60,8 +63,8 @@ d.Option2.value = true
 frmmain.cmdvytvor:click()
 
 local second = read_file(description)
-contains(second, "    class " .. shared.Texty[57] .. "2\r\n", "the proposed name of a radio message")
-contains(second, "    class " .. shared.Texty[59] .. "2\r\n", "of a sound")
+contains(second, "    class Radio2\r\n", "the name of a radio message")
+contains(second, "    class " .. shared.Texty[59] .. "2\r\n", "the proposed name of a sound")
 contains(second, "    class " .. shared.Texty[61] .. "2\r\n", "of music")
 for _, part in ipairs{"class CfgIdentities\r\n{\r\n    class ", "class RscText\r\n{\r\n   type=0;", "class RscPicture\r\n{\r\n   type=0;",
   "      class Words: RscText\r\n", "      class Photo: RscPicture\r\n", "   class Birds\r\n"} do
