@@ -20,6 +20,16 @@ bool isWeb(const QUrl& address)
   return address.scheme() == "http" || address.scheme() == "https";
 }
 
+/// The colours of a page: it says its own on the ground that they are on white, whatever colours the desktop has.
+QPalette paper(QPalette palette)
+{
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  return palette;
+}
+
+constexpr const char* linksOnPaper = "a { color: #0645ad; }";
+
 class BrowserLink : public Link
 {
 public:
@@ -49,8 +59,12 @@ private:
     const Page page = readPage(path);
     m_view->document()->setBaseUrl(QUrl::fromLocalFile(m_folder + '/'));
     m_view->setSearchPaths({m_folder});
+    m_view->setPalette(page.html ? paper(m_view->palette()) : QPalette());
     if (page.html)
+    {
+      m_view->document()->setDefaultStyleSheet(linksOnPaper);
       m_view->setHtml(page.text);
+    }
     else
       m_view->setPlainText(page.text);
     m_view->verticalScrollBar()->setValue(0);

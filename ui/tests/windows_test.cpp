@@ -85,6 +85,7 @@ private slots:
   void pictureOfTheLook();
   void bigPicture();
   void pagesByCharacterSet();
+  void pagesOnADarkDesktop();
 };
 
 void WindowsTest::formIsShownAndHidden()
@@ -581,6 +582,29 @@ void WindowsTest::pagesByCharacterSet()
   QCOMPARE(view.toPlainText(), QString("kůň <b>"));
   form.browser.navigate("nowhere");
   QCOMPARE(view.toPlainText(), QString());
+}
+
+void WindowsTest::pagesOnADarkDesktop()
+{
+  const QPalette light = QApplication::palette();
+  QApplication::setPalette(QPalette(QColor(53, 53, 57), QColor(42, 43, 46)));
+  QTemporaryDir folder;
+  writeFile(folder.filePath("page.html"), "<body>word <a href='#there'>link</a></body>");
+  writeFile(folder.filePath("page.ext"), "word");
+  Page form;
+  QTextBrowser view;
+  const auto link = ui::linkBrowser(form.browser, &view);
+  form.browser.navigate(platform::toProgram(folder.filePath("page.ext").toStdString()));
+  QVERIFY(view.palette().color(QPalette::Base).lightness() < 128); // a text is the desktop's
+  form.browser.navigate(platform::toProgram(folder.filePath("page.html").toStdString()));
+  QCOMPARE(view.palette().color(QPalette::Base), QColor(Qt::white));
+  QCOMPARE(view.palette().color(QPalette::Text), QColor(Qt::black));
+  QTextCursor cursor(view.document());
+  cursor.setPosition(7);
+  QCOMPARE(cursor.charFormat().foreground().color(), QColor("#0645ad"));
+  form.browser.navigate(platform::toProgram(folder.filePath("page.ext").toStdString()));
+  QVERIFY(view.palette().color(QPalette::Base).lightness() < 128);
+  QApplication::setPalette(light);
 }
 
 /// With --fail the test is the program whose handler fails.
