@@ -31,10 +31,8 @@ void resetRecords()
         &shared.PocetSouboru})
     *count = 0;
   for (std::string* const text :
-       {&shared.PoznamkyZapad, &shared.PoznamkyVychod, &shared.PoznamkyPartyzani, &shared.PoznamkyCivilisti,
-        &shared.PlanZapad, &shared.PlanVychod, &shared.PlanPartyzani, &shared.PlanCivilisti, &shared.BrifingJmeno,
-        &shared.BrifingPopis, &shared.Spojenci, &shared.Mesic, &shared.Den, &shared.Hodina, &shared.Minuta,
-        &shared.Pocasi, &shared.Mlha, &shared.PredpovedPocasi, &shared.PredpovedMlhy})
+       {&shared.BrifingJmeno, &shared.BrifingPopis, &shared.Spojenci, &shared.Mesic, &shared.Den, &shared.Hodina,
+        &shared.Minuta, &shared.Pocasi, &shared.Mlha, &shared.PredpovedPocasi, &shared.PredpovedMlhy})
     text->clear();
 }
 
@@ -45,6 +43,15 @@ void resetTexts()
   setMissionTexts();
   frmmain.txtcekat.set("10");
   frmmain.lbljmeno.setCaption("");
+}
+
+/// Behind the fields: they keep a default text for the side on show, and a briefing that is read would go on from it.
+void resetSideTexts()
+{
+  for (std::string* const text :
+       {&shared.PoznamkyZapad, &shared.PoznamkyVychod, &shared.PoznamkyPartyzani, &shared.PoznamkyCivilisti,
+        &shared.PlanZapad, &shared.PlanVychod, &shared.PlanPartyzani, &shared.PlanCivilisti})
+    text->clear();
 }
 
 void resetOtherForms()
@@ -83,6 +90,7 @@ void resetMission()
 {
   resetRecords();
   resetTexts();
+  resetSideTexts();
   resetOtherForms();
   resetMissionFields();
   frmmain.StranaBrifing = "";

@@ -132,10 +132,13 @@ void FormWindow::exec()
   auto* const dialog = qobject_cast<QDialog*>(window());
   if (!dialog || !m_form.visible())
     return;
+  QWidget* const asking = QApplication::activeWindow();
   dialog->hide(); // it may be on the screen already, without being modal
   dialog->setWindowTitle(QString::fromStdString(m_form.caption()));
   followCaptions();
   place();
+  if (asking && asking != dialog) // it gets the keys back
+    dialog->windowHandle()->setTransientParent(asking->windowHandle());
   dialog->exec();
 }
 

@@ -8,8 +8,8 @@ import shutil
 import struct
 import subprocess
 
-import author
 import drive
+from files import settings_file
 from steps import DEMO, close_tips, expect, run
 
 TYPE = "application/x-sqm"
@@ -25,7 +25,7 @@ class Installed(drive.Program):
 
     def __enter__(self):
         super().__enter__()
-        (self.folder / "Tarvinfo.cfg").write_bytes(author.settings_file(self.folder))
+        (self.folder / "Tarvinfo.cfg").write_bytes(settings_file(self.folder))
         return self
 
     def tool(self, *command, desktop=None):

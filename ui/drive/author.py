@@ -6,38 +6,11 @@ The files under expected/ are written by hand.
 import struct
 
 import drive
+from files import expect_files, settings_file, text
 from steps import DEMO, HERE, close_tips, copy_demo, expect, run
 
 BRIEFING, OVERVIEW, NOTES, INTEL, SETTINGS, WEAPONS, SOUNDS, SCRIPTS = range(8)  # pages of SSTab1
 WEST, EAST, ADDONS, GEAR = range(4)  # pages of SSTab2
-
-
-def expect_files(folder, wanted, also):
-    """The folder holds the wanted files, byte for byte, and those that it has besides."""
-    names = sorted(path.name for path in wanted.iterdir())
-    expect(sorted(path.name for path in folder.iterdir()), sorted([*names, *also]), f"files in {folder.name}")
-    for name in names:
-        found, want = (folder / name).read_bytes().split(b"\r\n"), (wanted / name).read_bytes().split(b"\r\n")
-        for number, (line, wanted_line) in enumerate(zip(found, want), 1):
-            expect(line.decode("cp1250"), wanted_line.decode("cp1250"), f"{name}, line {number}")
-        expect(len(found), len(want), f"lines of {name}")
-
-
-def text(value):
-    """A string as the program keeps it in its own files."""
-    value = value.encode("cp1250")
-    return struct.pack("<H", len(value)) + value
-
-
-def settings_file(folder):
-    """Tarvinfo.cfg after a first start in Czech."""
-    colours = [(0xFF0000, -1, 0), (0x00FF00, 0, -1), (0x0040C0, -1, 0), (0x404040, -1, 0), (0x0000FF, 0, 0),
-               (0x0080FF, 0, 0)]
-    own = str(folder).replace("/", "\\")
-    never_chosen = bytes(18)  # a font
-    return (b"".join(struct.pack("<Ihh", *colour) for colour in colours) +
-            text(own + "\\Bfdata\\languages\\Tv\\Czech.lng") + text(own + "\\tarvpbou.exe") + text("ZDROJ,CIL,2") +
-            struct.pack("<hh", -1, -1) + text("Žofie Nováková") + text("zofie@example.org") + 3 * never_chosen)
 
 
 def add_row(program, window, field, row, value):

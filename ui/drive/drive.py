@@ -450,11 +450,15 @@ class Program:
     def row(self, window, name, text):
         """A row of a list, a tree or an open combo by its text, scrolled into sight with the wheel."""
         def seen():
-            widget = self.widget(window, name)
-            rows = [row for row in (widget or {}).get("rows", []) if row["text"] == text]
-            if rows and "rect" not in rows[0] and widget["class"] != "QComboBox":
-                self.click_at(widget["rect"], button=5)
-            return rows[0] if rows and "rect" in rows[0] else None
+            widget = self.widget(window, name) or {}
+            rows = widget.get("rows", [])
+            place = next((place for place, row in enumerate(rows) if row["text"] == text), None)
+            if place is None or "rect" in rows[place]:
+                return rows[place] if place is not None else None
+            if widget["class"] != "QComboBox":
+                above = any("rect" in row for row in rows[place + 1:])
+                self.click_at(widget["rect"], button=4 if above else 5)
+            return None
         return wait_until(seen, f"row {text!r} of {window}.{name}")
 
     def select_row(self, window, name, text, times=1):

@@ -32,8 +32,9 @@ def close_tips(program):
     program.wait_window("frmmain")
 
 
-def run(play, kind=drive.Program):
-    """Plays play(program) on a new screen with the program of the build folder that the command line names."""
+def run(play, kind=drive.Program, complaints=()):
+    """Plays play(program) on a new screen with the program of the build folder that the command line names. All that
+    the program may write to its outputs are the lines of `complaints`."""
     def too_long(*_):
         raise drive.Failed(f"the whole took longer than {WHOLE} s")
 
@@ -42,4 +43,4 @@ def run(play, kind=drive.Program):
     signal.alarm(WHOLE)
     with drive.Screen() as screen, kind(screen, sys.argv[1]) as program:
         play(program)
-        expect(program.said(), "", "complaints of the program")
+        expect(set(program.said().splitlines()), set(complaints), "complaints of the program")

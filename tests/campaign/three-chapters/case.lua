@@ -1,7 +1,8 @@
--- Three chapters with links of every kind, a cutscene, awards and penalties on three islands, one of them terminating;
+-- Three chapters with links of every kind, two cutscenes, awards and penalties on three islands, one of them terminating;
 -- identities, sounds with subtitles, an overview with a picture.
 dofile(arg[1] .. "/campaign.lua")
 local intro, most, obrana, konec = mission("Úvod.Eden"), mission("Most.Eden"), mission("Obrana mostu.Abel"), mission("M3.Cain")
+local epilogue = mission("Návrat.Abel")
 local praise, march, scolding, end_scene = mission("Chvála.Eden"), mission("Pochod.Cain"), mission("Výtka.Abel"), mission("Konec.Eden")
 local folder = make_folder(work .. "/out")
 write_file(make_folder(most .. "/skripty") .. "/most.sqs", "hint \"\xd8eka\"\r\n")
@@ -58,7 +59,7 @@ chapter("Druhá kapitola")
 chapter("Třetí")
 links("PART1", {{2, "T48"}, {3, "PART3"}, {4, ""}, {5, "Jiná; \"x\""}, {6, "T48"}, {7, "T47"}, {8, path(intro)}})
 links("PART2", {{6, "PART1"}, {7, "Konec"}})
-links("PART3", {{1, "Zahozeno"}, {2, "T48"}, {7, "T47"}})
+links("PART3", {{1, "Zahozeno"}, {2, "T48"}, {7, "T47"}, {8, path(epilogue)}})
 add_mission("PART1", most)
 add_mission("PART1", obrana)
 add_mission("PART1", konec)
