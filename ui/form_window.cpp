@@ -182,6 +182,8 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event)
     return false;
   if (event->type() == QEvent::WindowActivate)
     followCaptions();
+  if (isEnter(*event) && m_window->focusWidget() && m_window->focusWidget()->property("keepsEnter").toBool())
+    return true; // a name that is being typed does not lead to the next step
   const bool escape = event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
                       qobject_cast<QDialog*>(m_window.get());
   if (event->type() != QEvent::Close && !escape)

@@ -284,6 +284,7 @@ def chapters(author, missions, intro, epilogue):
     for name in ("První", "Druhá kapitola", "Třetí"):
         program.click("frmcamp4", "cmdaddpart")
         program.type_text("frmcamp4", "txtpartname", name)
+        program.key("Return")  # no step is left by it
         program.click("frmcamp4", "cmdaddpart")
         program.wait_text("frmcamp4", "cmdaddpart", "Přidat kapitolu")
     drive.wait_until(lambda: len(tree()) == 3, "three chapters")
@@ -296,6 +297,7 @@ def chapters(author, missions, intro, epilogue):
         for tag, value in links:
             author.choose("frmcamp4", "seznamakci", tag - 1)
             program.type_text("frmcamp4", "txtdalsimise", value)
+        program.key("Return")
         if dropped:
             author.look("links")
             author.choose("frmcamp4", "seznamakci", 3)
