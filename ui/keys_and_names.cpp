@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QHash>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
@@ -182,14 +183,40 @@ QString nameAround(const QWidget& widget)
   return {};
 }
 
-QString nameFor(const QWidget& window, const QWidget& widget)
+/// The labels of a window that say something, by what they are buddies of and by their own names.
+class Labels
+{
+public:
+  explicit Labels(const QWidget& window)
+  {
+    for (const QLabel* const label : window.findChildren<QLabel*>())
+    {
+      if (!hasWord(label->text()))
+        continue;
+      if (label->buddy())
+        m_byBuddy.insert(label->buddy(), label);
+      m_byName.insert(label->objectName(), label);
+    }
+  }
+
+  const QLabel* of(const QWidget& widget) const
+  {
+    const QLabel* const label = m_byBuddy.value(&widget);
+    const QString name = widget.property(namedBy).toString();
+    return label || name.isEmpty() ? label : m_byName.value(name);
+  }
+
+private:
+  QHash<const QWidget*, const QLabel*> m_byBuddy;
+  QHash<QString, const QLabel*> m_byName;
+};
+
+QString nameFor(const Labels& labels, const QWidget& widget)
 {
   if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget); button && hasWord(button->text()))
     return plain(button->text());
-  for (const QLabel* const label : window.findChildren<QLabel*>())
-    if ((label->buddy() == &widget || label->objectName() == widget.property(namedBy).toString()) &&
-        hasWord(label->text()))
-      return plain(label->text());
+  if (const QLabel* const label = labels.of(widget))
+    return plain(label->text());
   if (hasWord(widget.toolTip()))
     return plain(widget.toolTip());
   const QString symbol = widget.property("text").toString();
@@ -216,13 +243,14 @@ void giveKeys(QWidget& window)
 
 void giveNames(QWidget& window)
 {
+  const Labels labels(window);
   for (QWidget* const widget : window.findChildren<QWidget*>())
   {
     const bool own =
         !widget->accessibleName().isEmpty() && widget->accessibleName() != widget->property(givenName).toString();
     if (own || !isControl(*widget))
       continue;
-    const QString name = nameFor(window, *widget);
+    const QString name = nameFor(labels, *widget);
     widget->setProperty(givenName, name);
     widget->setAccessibleName(name);
   }

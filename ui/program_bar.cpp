@@ -3,6 +3,7 @@
 #include "core/forms/frmmain.h"
 #include "core/shared.h"
 #include "ui/binder.h"
+#include "ui/links.h"
 
 #include <QHelpEvent>
 #include <QLabel>
@@ -42,8 +43,7 @@ void paintLetter(QWidget& label, const QString& name)
 } // namespace
 
 ProgramBar::ProgramBar(QWidget& window)
-    : m_window(window),
-      m_frame(window.findChild<QWidget*>("Picture1")),
+    : m_frame(window.findChild<QWidget*>("Picture1")),
       m_strip(window.findChild<QWidget*>("Picture2")),
       m_scroll(window.findChild<QScrollBar*>("HScroll1"))
 {
@@ -65,19 +65,18 @@ bool ProgramBar::follow()
       {
         if (index == 0 || m_icons.contains(index))
           return;
-        const QString name = widgetName(icon);
-        auto* label = m_strip->findChild<QLabel*>(name);
+        QLabel*& label = m_labels[index];
         if (!label)
         {
           label = new QLabel(m_strip); // the strip owns it
-          label->setObjectName(name);
+          label->setObjectName(widgetName(icon));
           label->setAlignment(Qt::AlignCenter);
           label->setProperty(indexProperty, index);
         }
         label->setGeometry((index - 1) * iconPlace, 0, iconPlace, iconPlace);
         label->setFocusPolicy(Qt::StrongFocus);
         label->setCursor(Qt::PointingHandCursor);
-        m_icons[index] = bindField(icon, m_window);
+        m_icons[index] = linkPicture(icon, label);
         label->removeEventFilter(this);
         label->installEventFilter(this);
         changed = true;

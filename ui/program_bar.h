@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 
+class QLabel;
 class QScrollBar;
 class QWidget;
 
@@ -26,10 +27,10 @@ private:
   void layOut();
   bool eventFilter(QObject* watched, QEvent* event) override;
 
-  QWidget& m_window;
   QWidget* m_frame;
   QWidget* m_strip;
   QScrollBar* m_scroll;
+  std::map<int, QLabel*> m_labels; ///< by number of the icon; one that went leaves its label to the next
   std::map<int, std::unique_ptr<Link>> m_icons;
 };
 
