@@ -32,7 +32,8 @@ constexpr int mainWidth = 10830;
 constexpr int mainHeight = 8625;
 constexpr int twipsPerInch = 1440;
 
-constexpr int paintWait = 100; ///< milliseconds that a new window may take to come to the screen
+constexpr int betweenPaints = 15; ///< milliseconds: a work of many small steps is not held up by the sight of it
+constexpr int paintWait = 100;    ///< milliseconds that a new window may take to come to the screen
 
 /// The main window, where it is on the screen.
 QWidget* mainWindow()
@@ -118,12 +119,13 @@ void FormWindow::formChanged(Form& form)
     return;
   }
   place();
+  m_painted.invalidate();
   m_window->show();
 }
 
 void FormWindow::formRefreshed(Form&)
 {
-  if (m_window && m_window->isVisible())
+  if (m_window && m_window->isVisible() && (!m_painted.isValid() || m_painted.hasExpired(betweenPaints)))
     paintNow();
 }
 
@@ -174,6 +176,7 @@ void FormWindow::paintNow()
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   while (handle && !handle->isExposed() && waited.elapsed() < paintWait);
   m_window->repaint();
+  m_painted.start();
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event)

@@ -3,6 +3,7 @@
 #include "core/forms/form.h"
 #include "ui/link.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QWidget>
 #include <memory>
@@ -44,6 +45,7 @@ private:
   std::vector<std::unique_ptr<Link>> m_links;
   std::unique_ptr<ProgramBar> m_bar;
   std::unique_ptr<TitlePreview> m_preview;
+  QElapsedTimer m_painted; ///< since the window was painted at once; invalid when it was not since it was shown
   bool m_placed = false;
 };
 
