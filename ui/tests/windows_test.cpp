@@ -5,8 +5,10 @@
 #include "core/forms/form1.h"
 #include "core/forms/form3.h"
 #include "core/forms/frmabout2.h"
+#include "core/forms/frmcopy.h"
 #include "core/forms/frmmain.h"
 #include "core/forms/frmopenmission.h"
+#include "core/forms/frmstart.h"
 #include "core/shared.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
@@ -66,6 +68,7 @@ private slots:
   void init() { renewForms(); }
 
   void formIsShownAndHidden();
+  void waitingWindowsArePaintedAtOnce();
   void mainWindowCannotBeResized();
   void programsBar();
   void closingAsksTheForm();
@@ -101,6 +104,29 @@ void WindowsTest::formIsShownAndHidden()
   Form3.refresh();
   Form3.hide();
   QVERIFY(!window->isVisible());
+}
+
+void WindowsTest::waitingWindowsArePaintedAtOnce()
+{
+  struct Paints : QObject
+  {
+    int count = 0;
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+      count += event->type() == QEvent::Paint ? 1 : 0;
+      return QObject::eventFilter(watched, event);
+    }
+  };
+  ui::FormWindows windows;
+  for (Form* const form : std::initializer_list<Form*>{&frmstart, &Form3, &Form1, &frmcopy})
+  {
+    Paints paints;
+    windows.of(*form).window()->installEventFilter(&paints);
+    form->show();
+    form->refresh(); // the work begins behind it, with no event loop
+    QVERIFY2(paints.count > 0, form->name().c_str());
+    form->hide();
+  }
 }
 
 void WindowsTest::mainWindowCannotBeResized()
