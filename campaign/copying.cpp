@@ -24,6 +24,11 @@ namespace
 
 bool copies = false;
 
+void breathe()
+{
+  desk().breathe();
+}
+
 void begin(Progress& bar, int count)
 {
   if (count > 0)
@@ -74,7 +79,7 @@ public:
       m_links += links;
       copy(folder, target + "\\" + name);
       m_links -= links;
-      desk().breathe();
+      breathe();
     }
     m_open.pop_back();
     copyFiles(source, target, steps);
@@ -98,11 +103,11 @@ private:
     begin(frmcopy.prubeh2, static_cast<int>(files.size()));
     for (const std::string& name : files)
     {
-      steps([&] { platform::copyFileOver(source + "\\" + name, target + "\\" + name); });
+      steps([&] { platform::copyFileOver(source + "\\" + name, target + "\\" + name, breathe); });
       advance(frmcopy.prubeh2);
       frmcopy.refresh();
       attempt([&] { frmcopy.lbljmeno.setCaption(Texty(84) + " " + name); });
-      desk().breathe();
+      breathe();
     }
   }
 
@@ -254,12 +259,12 @@ private:
           {
             const Record& record = records.at(list.tag(row));
             m_file = record.Soubor;
-            platform::copyFileOver(record.Cesta + "\\" + record.Soubor, target + "\\" + record.Soubor);
+            platform::copyFileOver(record.Cesta + "\\" + record.Soubor, target + "\\" + record.Soubor, breathe);
           });
       m_steps([&] { frmcopy.lbljmeno.setCaption(Texty(fileText) + " " + m_file); });
       advance(frmcopy.prubeh1);
       advance(frmcopy.prubeh2);
-      desk().breathe();
+      breathe();
     }
   }
 

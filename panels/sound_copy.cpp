@@ -71,8 +71,9 @@ void showFile(int text, const std::string& name)
 
 void copy(const std::string& from, const std::string& to)
 {
-  step([&] { platform::copyFileOver(from, to); });
-  desk().breathe();
+  const auto breathe = [] { desk().breathe(); };
+  step([&] { platform::copyFileOver(from, to, breathe); });
+  breathe();
 }
 
 void progressTo(int count)

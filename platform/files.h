@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,7 +43,8 @@ void writeFile(std::string_view path, std::string_view bytes);
 bool copyFile(std::string_view from, std::string_view to, bool failIfExists);
 
 /// As above with overwriting, but throws the failure (53 no source, 70 same file or refused, 76 no folder, 61 full).
-void copyFileOver(std::string_view from, std::string_view to);
+/// While a large file is on its way, `meanwhile` runs for every sixteen megabytes; what it throws ends the copy.
+void copyFileOver(std::string_view from, std::string_view to, const std::function<void()>& meanwhile = {});
 
 /// Makes a read-only file writable. True when the file exists and could be changed.
 bool clearAttributes(std::string_view path);

@@ -157,11 +157,22 @@ void closeWritten(Descriptor& file)
 
 // Copies from the current places of both files to the end. Where the system can't copy by itself, and for whatever it
 // leaves, the plain loop goes on from the same places.
-void copyBytes(const Descriptor& from, const Descriptor& to)
+void copyBytes(const Descriptor& from, const Descriptor& to, const std::function<void()>& meanwhile)
 {
-  constexpr std::size_t atOnce = std::size_t{1} << 30;
-  while (restarted([&] { return copy_file_range(from.get(), nullptr, to.get(), nullptr, atOnce, 0); }) > 0)
-    ;
+  constexpr std::size_t atOnce = std::size_t{1} << 24;
+  std::size_t sinceBreath = 0;
+  const auto breathe = [&](ssize_t copied)
+  {
+    sinceBreath += static_cast<std::size_t>(copied);
+    if (sinceBreath < atOnce)
+      return;
+    sinceBreath = 0;
+    if (meanwhile)
+      meanwhile();
+  };
+  ssize_t copied = 0;
+  while ((copied = restarted([&] { return copy_file_range(from.get(), nullptr, to.get(), nullptr, atOnce, 0); })) > 0)
+    breathe(copied);
   std::string block(std::size_t{1} << 17, '\0');
   for (;;)
   {
@@ -171,6 +182,7 @@ void copyBytes(const Descriptor& from, const Descriptor& to)
     if (count == 0)
       return;
     writeAll(to, std::string_view(block).substr(0, static_cast<std::size_t>(count)));
+    breathe(count);
   }
 }
 
@@ -236,7 +248,7 @@ void refuseTarget(const Status& source, const Status& target, bool failIfExists)
     throw Failure(Fault::permissionDenied);
 }
 
-void copy(std::string_view from, std::string_view to, bool failIfExists)
+void copy(std::string_view from, std::string_view to, bool failIfExists, const std::function<void()>& meanwhile)
 {
   const std::string name = usableName(to);
   const OpenSource source = openForReading(from);
@@ -250,7 +262,7 @@ void copy(std::string_view from, std::string_view to, bool failIfExists)
   TemporaryFile copied(folderOf(target));
   if (!copied.file().valid())
     throw failureOf(errno);
-  copyBytes(source.file, copied.file());
+  copyBytes(source.file, copied.file(), meanwhile);
   // The attributes and the time of the last change go with the file, as CopyFile has it.
   const timespec times[] = {{0, UTIME_NOW}, source.status.st_mtim};
   futimens(copied.file().get(), times);
@@ -400,7 +412,7 @@ bool copyFile(std::string_view from, std::string_view to, bool failIfExists)
 {
   try
   {
-    copy(from, to, failIfExists);
+    copy(from, to, failIfExists, {});
     return true;
   }
   catch (const Failure&)
@@ -409,9 +421,9 @@ bool copyFile(std::string_view from, std::string_view to, bool failIfExists)
   }
 }
 
-void copyFileOver(std::string_view from, std::string_view to)
+void copyFileOver(std::string_view from, std::string_view to, const std::function<void()>& meanwhile)
 {
-  copy(from, to, false);
+  copy(from, to, false, meanwhile);
 }
 
 bool clearAttributes(std::string_view path)

@@ -5,6 +5,7 @@
 #include "platform/windows/handles.h"
 
 #include <algorithm>
+#include <exception>
 #include <optional>
 
 namespace tarvelin::platform
@@ -188,7 +189,35 @@ void refuseTarget(const std::wstring& source, const std::wstring& target, DWORD 
     throw Failure(Fault::permissionDenied);
 }
 
-void copy(std::string_view from, std::string_view to, bool failIfExists)
+/// One copy and what runs beside it; an exception must not cross the system's code.
+struct Meanwhile
+{
+  const std::function<void()>& action;
+  std::exception_ptr thrown = nullptr;
+  LONGLONG since = 0; ///< bytes that had been copied when the action ran last
+};
+
+DWORD CALLBACK copied(LARGE_INTEGER, LARGE_INTEGER done, LARGE_INTEGER, LARGE_INTEGER, DWORD, DWORD, HANDLE, HANDLE,
+                      void* data)
+{
+  constexpr LONGLONG atOnce = LONGLONG{1} << 24;
+  auto& meanwhile = *static_cast<Meanwhile*>(data);
+  if (!meanwhile.action || done.QuadPart - meanwhile.since < atOnce)
+    return PROGRESS_CONTINUE;
+  meanwhile.since = done.QuadPart;
+  try
+  {
+    meanwhile.action();
+  }
+  catch (...)
+  {
+    meanwhile.thrown = std::current_exception();
+    return PROGRESS_CANCEL;
+  }
+  return PROGRESS_CONTINUE;
+}
+
+void copy(std::string_view from, std::string_view to, bool failIfExists, const std::function<void()>& action)
 {
   const std::wstring target = usableName(to);
   openForReading(from); // tells what is wrong with the source
@@ -198,11 +227,17 @@ void copy(std::string_view from, std::string_view to, bool failIfExists)
   const std::wstring folder = folderOf(target);
   if (!isFolder(folder))
     throw Failure(Fault::pathNotFound);
-  TemporaryFile copied(folder);
+  TemporaryFile copy(folder);
+  Meanwhile meanwhile{action};
   // CopyFile itself would leave a full disk without the old file, too.
-  if (!copied.valid() || CopyFileW(source.c_str(), copied.name().c_str(), FALSE) == 0 ||
-      !copied.renameTo(target, failIfExists))
-    throw lastFailure();
+  if (!copy.valid() || CopyFileExW(source.c_str(), copy.name().c_str(), copied, &meanwhile, nullptr, 0) == 0 ||
+      !copy.renameTo(target, failIfExists))
+  {
+    const Failure failure = lastFailure();
+    if (meanwhile.thrown)
+      std::rethrow_exception(meanwhile.thrown);
+    throw failure;
+  }
 }
 
 enum class Kind
@@ -318,7 +353,7 @@ bool copyFile(std::string_view from, std::string_view to, bool failIfExists)
 {
   try
   {
-    copy(from, to, failIfExists);
+    copy(from, to, failIfExists, {});
     return true;
   }
   catch (const Failure&)
@@ -327,9 +362,9 @@ bool copyFile(std::string_view from, std::string_view to, bool failIfExists)
   }
 }
 
-void copyFileOver(std::string_view from, std::string_view to)
+void copyFileOver(std::string_view from, std::string_view to, const std::function<void()>& meanwhile)
 {
-  copy(from, to, false);
+  copy(from, to, false, meanwhile);
 }
 
 bool clearAttributes(std::string_view path)

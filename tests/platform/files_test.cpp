@@ -458,6 +458,24 @@ TEST(Files, KnowsTheSameFileUnderOtherNames)
   EXPECT_FALSE(sameFile(scratch.path("none"), scratch.path("none")));
 }
 
+TEST(Files, ALargeCopyLetsOthersRunMeanwhile)
+{
+  const Scratch scratch;
+  scratch.put("small", std::string(100000, 's'));
+  scratch.put("large", std::string(std::size_t{40} << 20, 'l'));
+  scratch.put("target", "old");
+  int turns = 0;
+  copyFileOver(scratch.path("small"), scratch.path("copy"), [&] { ++turns; });
+  EXPECT_EQ(turns, 0);
+  copyFileOver(scratch.path("large"), scratch.path("copy"), [&] { ++turns; });
+  EXPECT_GE(turns, 2);
+  EXPECT_EQ(scratch.bytes("copy"), scratch.bytes("large"));
+  EXPECT_THROW(copyFileOver(scratch.path("large"), scratch.path("target"), [] { throw Failure(Fault::deviceError); }),
+               Failure);
+  EXPECT_EQ(scratch.bytes("target"), "old");
+  EXPECT_EQ(scratch.count(), 4U); // no half of a file was left
+}
+
 TEST(Files, KnowsLinks)
 {
   const Scratch scratch;
