@@ -15,6 +15,7 @@
 #include "core/forms/frmcamp7.h"
 #include "core/forms/frmdalsinast.h"
 #include "core/forms/frmdebrief.h"
+#include "core/forms/frmeditsetup.h"
 #include "core/forms/frmloadsite.h"
 #include "core/forms/frmmain.h"
 #include "core/forms/frmrejstrik.h"
@@ -121,6 +122,8 @@ void frmmain_Load()
   attempt(procedures.readGame);
   readCatalogue("\\Bfdata\\islands.dat", NactiOstrovy);
   attempt(readSettings);
+  // the switch of the colours is used by the editor also while the window of the setup was never shown
+  frmeditsetup.Check1.set(shared.Nastaveni.UkazovatBarvy != 0);
   attempt(fillPictureSizes);
   readCatalogue("\\bfdata\\commands.dat", procedures.NactiPrikazy);
   attempt(procedures.Akce);

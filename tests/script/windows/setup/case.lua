@@ -1,6 +1,10 @@
 -- Colours of the editor: shown from the settings, kept at once.
 start()
 local f, set = frmeditsetup, shared.Nastaveni
+equal(f.Check1.value, 1, "the switch of the colours is right before the window was shown")
+f.Check1.value = 0
+equal(set.UkazovatBarvy, 0, "and works")
+f.Check1.value = 1
 frmmain.mnueditskript:click()
 equal(f.visible, true, "the menu shows the setup")
 local groups = {
