@@ -52,7 +52,7 @@ void showSettings()
 {
   for (const SettingRow& row : settingRows)
     (frmsettings.*row.field).set(shared.Nastaveni.*row.set);
-  frmsettings.Check1.set(shared.Nastaveni.UkazovatTipy != 0);
+  frmsettings.Check1.set(shared.Nastaveni.UkazovatTipy == -1); // a stray number of the file shows no tips at the start
 }
 
 void keep(const SettingRow& row)

@@ -1,8 +1,15 @@
--- With the flag set frmtips is shown on top at the start.
+-- With the flag set frmtips is shown on top at the start; a flag is -1 and nothing else.
 local settings = read_file(home .. "/Tarvinfo.cfg")
 local _, at = settings:find("T92,T93,2", 1, true)
-write_file(home .. "/Tarvinfo.cfg", settings:sub(1, at + 2) .. "\255\255" .. settings:sub(at + 5))
+local function tips_flag(bytes) write_file(home .. "/Tarvinfo.cfg", settings:sub(1, at + 2) .. bytes .. settings:sub(at + 5)) end
+tips_flag("\255\255")
 start()
 equal(shared.Nastaveni.UkazovatTipy, -1, "the flag")
 equal(frmtips.visible, true, "the tips are shown")
 equal(frmmain.visible, true, "over the main form")
+quit()
+tips_flag("\1\0")
+start()
+equal(shared.Nastaveni.UkazovatTipy, 1, "a stray number is kept as it is")
+equal(frmtips.visible, false, "and shows no tips")
+equal(frmsettings.Check1.value, 0, "nor a mark in the settings")
