@@ -23,6 +23,8 @@ import tempfile
 import time
 import zlib
 
+DATA = pathlib.Path(__file__).resolve().parent.parent.parent / "Bfdata"
+
 STEP = 30  # seconds that one step may take on a slow machine
 PAUSE = 0.03  # seconds between two looks
 
@@ -197,7 +199,7 @@ class Program:
         self.home.mkdir()
         self.folder.mkdir()
         shutil.copy2(self.build / "tarvelin", self.folder)
-        shutil.copytree(self.build / "Bfdata", self.folder / "Bfdata")
+        shutil.copytree(DATA, self.folder / "Bfdata")  # that of the build may have been worked with
         (self.scratch / "run").mkdir(mode=0o700)
         return self
 
